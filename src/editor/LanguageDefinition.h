@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+namespace Quillbox {
+
+/// Name under which the definition is registered and editors select it.
+inline const QString LanguageName = QStringLiteral("Blitz3D");
+
+enum class CaseSensitivity { Off, On };
+
+/// The colouring rules that every editor uses. The lists are texts of items with line feeds between
+/// them; empty items count for nothing. An empty marker or delimiter switches its rule off.
+struct LanguageDefinition {
+    CaseSensitivity Case = CaseSensitivity::Off;
+    QString SingleLineComment;
+    QString MultiLineCommentStart;
+    QString MultiLineCommentEnd;
+    QString StringDelimiter;
+    QString Operators; ///< one-character operators, each followed by a line feed
+    QString Keywords;  ///< each preceded by a line feed
+    QString UserWords; ///< the current document's function names, each preceded by a line feed
+
+    bool operator==(const LanguageDefinition &) const = default;
+};
+
+/// The editor control's global object: registered languages by name.
+class LanguageRegistration {
+  public:
+    virtual ~LanguageRegistration() = default;
+
+    /// Registers `language` under `name`, or again; every editor that has chosen the name follows.
+    /// An unchanged definition costs nothing.
+    virtual void RegisterLanguage(const QString &name, const LanguageDefinition &language) = 0;
+};
+
+} // namespace Quillbox

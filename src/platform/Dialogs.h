@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+namespace Quillbox {
+
+enum class MessageIcon { None, Critical, Question, Exclamation, Information };
+enum class MessageButtons { Ok, YesNo, YesNoCancel };
+enum class MessageAnswer { Ok, Yes, No, Cancel };
+
+struct Message {
+    QString Text;
+    QString Caption;
+    MessageIcon Icon = MessageIcon::None;
+    MessageButtons Buttons = MessageButtons::Ok;
+};
+
+/// What a file chooser insists on.
+enum class FileChooserFlags {
+    OverwritePrompt = 2, ///< asks before an existing file is chosen for saving
+    FileMustExist = 4096,
+};
+
+struct FileChooser {
+    FileChooserFlags Flags;
+    QString Filter;        ///< caption, "|", pattern: "Programas de Fenix (*.prg)|*.prg"
+    QString FileName = {}; ///< proposed name, empty for none
+};
+
+/// The questions that the program asks people.
+class Dialogs {
+  public:
+    virtual ~Dialogs() = default;
+
+    /// Closing the box without a button answers Cancel where there is one, else No or Ok.
+    virtual MessageAnswer ShowMessage(const Message &message) = 0;
+    /// The chosen full name; empty when the person cancels.
+    virtual std::optional<QString> ShowOpen(const FileChooser &chooser) = 0;
+    virtual std::optional<QString> ShowSave(const FileChooser &chooser) = 0;
+};
+
+} // namespace Quillbox

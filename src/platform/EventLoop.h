@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+namespace Quillbox {
+
+/// What rules need of the user interface's event loop and keyboard.
+class EventLoop {
+  public:
+    virtual ~EventLoop() = default;
+
+    /// Handles the events that are waiting, then returns.
+    virtual void ProcessPendingEvents() = 0;
+    /// Gives up the rest of the time slice without handling events.
+    virtual void Yield() = 0;
+    /// The state of a Ctrl key at this moment.
+    virtual bool IsCtrlDown() = 0;
+};
+
+} // namespace Quillbox

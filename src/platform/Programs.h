@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+namespace Quillbox {
+
+/// How a started program shows its window, where the platform lets a program say so. All take the
+/// focus.
+enum class WindowStyle { Normal = 1, Minimized = 2, Maximized = 3 };
+
+/// Programs that are started and not waited for.
+class Programs {
+  public:
+    virtual ~Programs() = default;
+
+    /// Starts a program by its command line; it is never waited for and leaves no zombie behind.
+    /// Throws RuntimeError 53 when it is not there and 5 or 70 when it cannot be started.
+    virtual void Start(const QString &commandLine, WindowStyle style) = 0;
+    /// Sets a variable of this process, which every later child inherits.
+    virtual void SetEnvironmentVariable(const QString &name, const QString &value) = 0;
+};
+
+} // namespace Quillbox
