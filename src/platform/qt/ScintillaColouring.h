@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "editor/ColouringExtent.h"
+#include "editor/ColouringRules.h"
+#include "platform/qt/LanguageCatalogue.h"
+#include "platform/qt/ScintillaText.h"
+
+#include <memory>
+#include <vector>
+
+namespace Quillbox {
+
+/// Colours the text of an editing component when it asks for it, as far as it shows.
+class ScintillaColouring {
+  public:
+    explicit ScintillaColouring(const ScintillaText &text);
+
+    /// Null leaves the text uncoloured.
+    void SetRules(std::shared_ptr<const ColouringRules> rules, LanguageChange change);
+
+    void TextInserted(BytePosition position, BytePosition length);
+    void TextDeleted(BytePosition position, BytePosition length);
+    /// The component shows another text, nothing of which is coloured.
+    void TextReplaced();
+    /// The component shows the text of another one, with the colours that it has.
+    void TakeOver(const ScintillaColouring &other);
+
+    /// Colours as far as `end` at least.
+    void ColourUpTo(BytePosition end);
+    /// To be called before anything is painted.
+    void PrepareShownText();
+    void PrepareWholeText();
+
+  private:
+    void WriteStyles(BytePosition start, BytePosition length);
+    BytePosition PieceEnd(BytePosition start, BytePosition wanted) const;
+    BytePosition FindJump(BytePosition start, BytePosition end) const;
+    BytePosition FirstShownPosition() const;
+    void Synchronise();
+
+    const ScintillaText &Text_;
+    std::shared_ptr<const ColouringRules> Rules_;
+    ColouringExtent Extent_;
+    std::vector<TextStyle> Styles_; ///< of the piece at hand
+};
+
+} // namespace Quillbox

@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/EditorControl.h"
+#include "platform/qt/ScintillaColouring.h"
+#include "platform/qt/ScintillaStyles.h"
+
+#include <Qsci/qsciscintillabase.h>
+
+#include <QPoint>
+
+#include <functional>
+
+class QPrinter;
+
+namespace Quillbox {
+
+class Dialogs;
+struct FileError;
+struct FindState;
+
+/// The editor of one document. What a person does arrives as signals; in a signal the text, the
+/// caret and the modified flag already are as the action left them.
+class ScintillaEditor final : public QsciScintillaBase, public EditorControl {
+    Q_OBJECT
+  public:
+    ScintillaEditor(const LanguageCatalogue &languages, FindState &find, Dialogs &dialogs,
+                    QWidget *parent = nullptr);
+    ~ScintillaEditor() override;
+
+    /// Asked before a control character typed with Ctrl (Ctrl+A is 1 ... Ctrl+Z is 26) reaches the
+    /// control's own keys; true ends the key there.
+    std::function<bool(int code)> CharacterTyped;
+
+    void SetLanguage(const QString &name) override;
+    void SetColorSyntax(bool on) override;
+    void SetColor(ColorSlot slot, Color color) override;
+    void SetFontStyle(FontStyleClass textClass, int style) override;
+    void SetFontName(const QString &name) override;
+    void SetFontSize(int points) override;
+    void SetTabSize(int columns) override;
+    void SetLineNumbers(bool shown) override;
+
+    int LineCount() const override;
+    QString LineText(LineIndex line) const override;
+    int LineLength(LineIndex line) const override;
+    void SetLinePosition(LineIndex line) override;
+    QString CurrentWord() const override;
+    TokenClass CurrentTokenClass() const override;
+
+    TextRange GetSel() const override;
+    void DeleteSel() override;
+    bool CanCopy() const override;
+    void Copy() override;
+    bool CanCut() const override;
+    void Cut() override;
+    bool CanPaste() const override;
+    void Paste() override;
+    bool CanUndo() const override;
+    void Undo() override;
+    bool CanRedo() const override;
+    void Redo() override;
+
+    bool OpenFile(const QString &path) override;
+    bool SaveFile(const QString &path) override;
+    bool IsModified() const override;
+    QString Text() const override;
+    /// `other` must be a ScintillaEditor.
+    void TakeContentsFrom(EditorControl &other) override;
+    void SetFocus() override;
+    void Print(const QString &fileName) override;
+    /// Prints on a printer that is set up already; returns the number of pages, 0 when it failed.
+    int PrintOn(QPrinter &printer, const QString &fileName);
+
+    void SetHighlightedLine(LineIndex line) override;
+    void SetTopIndex(LineIndex line) override;
+    void SetCaretPos(TextPosition position) override;
+    void ExecuteCommand(EditorCommand command) override;
+    void InsertText(const QString &text, TextPosition position) override;
+    void ReplaceSel(const QString &text) override;
+
+  signals:
+    /// After each edit, undo and redo, and once after a file has been loaded.
+    void TextChanged();
+    void ModifiedChanged(bool modified);
+    /// Before the key does anything; repeated while it is held.
+    void KeyDown();
+    /// Once per key, when it is let go: 13 Enter, 8 Backspace, 46 Delete, others without promise.
+    void KeyUp(int windowsKeyCode);
+    void MouseReleased();
+    void ContextMenuRequested(QPoint globalPosition);
+    void FocusReceived();
+
+  protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+  private:
+    void OnModified(int position, int type, const char *text, int length, int linesAdded);
+    void OnCharacterAdded(int character);
+    void TellFailure(const QString &sentence, const FileError &error, const QString &path);
+
+    const LanguageCatalogue &Languages_;
+    FindState &Find_;
+    Dialogs &Dialogs_;
+    ScintillaText Text_;
+    ScintillaStyles Styles_;
+    ScintillaColouring Colouring_;
+    QString Language_;
+};
+
+} // namespace Quillbox

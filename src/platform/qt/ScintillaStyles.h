@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "editor/ColouringRules.h"
+#include "platform/EditorControl.h"
+#include "platform/qt/ScintillaText.h"
+
+#include <array>
+
+namespace Quillbox {
+
+/// Colours, fonts and margins of an editing component. Setting what is set already costs nothing.
+class ScintillaStyles {
+  public:
+    explicit ScintillaStyles(const ScintillaText &text);
+
+    void SetColorSyntax(bool on);
+    void SetColor(ColorSlot slot, Color color);
+    void SetFontStyle(FontStyleClass textClass, int style);
+    void SetFontName(const QString &name);
+    void SetFontSize(int points);
+    void SetTabSize(int columns);
+    void SetLineNumbers(bool shown);
+
+    /// Fits the margin to the number of lines.
+    void TextLinesChanged();
+    /// Settings that belong to the text shown and not to the component are made again.
+    void TextReplaced();
+
+  private:
+    static constexpr std::size_t SlotCount = 31;
+    static constexpr std::size_t ClassCount = 9;
+
+    void ApplyAll();
+    void ApplyStyle(TextStyle style);
+    void ApplyFont(int styleNumber, FontStyleClass textClass);
+    void ApplyWindow();
+    void ApplyMargin();
+    Color ColorOf(ColorSlot slot) const { return Colors_[static_cast<std::size_t>(slot)]; }
+
+    const ScintillaText &Text_;
+    std::array<Color, SlotCount> Colors_;
+    std::array<int, ClassCount> FontStyles_{};
+    QByteArray FontName_;
+    int FontSize_ = 10;
+    int TabSize_ = 8;
+    int NumberDigits_ = 0;
+    bool ColorSyntax_ = true;
+    bool LineNumbers_ = false;
+};
+
+} // namespace Quillbox

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/TextPosition.h"
+
+#include <Qsci/qsciscintillabase.h>
+
+#include <QByteArray>
+#include <QString>
+
+#include <cstdint>
+#include <string_view>
+
+namespace Quillbox {
+
+/// A place in the editing component's text in bytes of UTF-8, 0-based.
+using BytePosition = std::intptr_t;
+
+/// `text` as UTF-8 in which each character that the code page lacks is a "?".
+QByteArray EditorBytes(const QString &text);
+
+/// The text of an editing component: messages to it, and the way from lines and character columns
+/// to its byte positions and back. Lines and columns outside the text mean the nearest inside.
+class ScintillaText {
+  public:
+    /// `control` outlives this object.
+    explicit ScintillaText(const QsciScintillaBase &control);
+
+    std::intptr_t Send(unsigned message, std::intptr_t first = 0, std::intptr_t second = 0) const;
+
+    BytePosition Length() const;
+    int LineCount() const;
+    LineIndex NearestLine(LineIndex line) const;
+    LineIndex LineOf(BytePosition position) const;
+    BytePosition LineStart(LineIndex line) const;
+    /// Before the line end.
+    BytePosition LineEnd(LineIndex line) const;
+    BytePosition Caret() const;
+    BytePosition SelectionStart() const;
+    BytePosition SelectionEnd() const;
+
+    /// Valid until the next change of the text.
+    std::string_view Bytes(BytePosition start, BytePosition end) const;
+    std::string_view LineBytes(LineIndex line) const;
+
+    BytePosition PositionOf(TextPosition position) const;
+    TextPosition PositionAt(BytePosition position) const;
+
+    /// As one undo step.
+    void Replace(BytePosition start, BytePosition end, std::string_view replacement) const;
+
+  private:
+    using DirectFunction = std::intptr_t (*)(void *, unsigned, std::uintptr_t, std::intptr_t);
+
+    DirectFunction Function_;
+    void *Target_;
+};
+
+} // namespace Quillbox
