@@ -22,10 +22,10 @@ class PrivateProfile {
                                const QString &defaultValue, int capacity, const QString &file) = 0;
 
     using KeyValue = std::pair<QString, QString>;
-    /// Writes the values in their order; an existing key is replaced in place, a new one goes to the
-    /// end of its section, a missing section or file is created. All other sections, keys, comments
-    /// and bytes stay. The file afterwards holds all of the old or all of the new bytes. False when
-    /// the file could not be written.
+    /// Writes the values in their order; an existing key is replaced in place, a new one goes to
+    /// the end of its section, a missing section or file is created. All other sections, keys,
+    /// comments and bytes stay. The file afterwards holds all of the old or all of the new bytes.
+    /// False when the file could not be written.
     virtual bool WriteStrings(const QString &section, const std::vector<KeyValue> &values,
                               const QString &file) = 0;
 };

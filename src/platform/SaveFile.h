@@ -3,6 +3,7 @@
 
 #include <QString>
 
+#include <cstddef>
 #include <functional>
 #include <optional>
 #include <string_view>
@@ -24,5 +25,14 @@ using ByteProducer = std::function<void(const ByteSink &)>;
 /// Afterwards the name holds either all old or all new bytes, whatever fails. Mode, symbolic links
 /// and hard links stay. A file or folder that is write-protected is refused. Empty on success.
 std::optional<FileError> ReplaceFile(const QString &path, const ByteProducer &produce);
+
+/// Takes the next bytes of a file. `fileSize` is the file's size in bytes as it was before reading
+/// began, the same with every piece: room can be made for the whole file at the first one.
+using PieceConsumer = std::function<void(std::string_view piece, std::size_t fileSize)>;
+
+/// Hands the content of the file at `path` (already a path of the system) to `consume` in pieces of
+/// at most 1 MiB; an empty file has no piece. Empty on success; after an error the pieces that came
+/// before it are worthless.
+std::optional<FileError> ReadFileBytes(const QString &path, const PieceConsumer &consume);
 
 } // namespace Quillbox
