@@ -1,1 +1,101 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "Program.h"
+
+#include "editor/EditCommands.h"
+#include "platform/EditorControl.h"
+
+namespace Quillbox {
+
+Program::Program(const Outside &outside)
+    : Outside_(outside)
+    , Boundary_(outside.Dialogs)
+    , Main_(Commands_, Events_, Boundary_)
+    , Store_(outside.AppDir, Settings_, outside.Profile)
+    , WordFiles_(outside.AppDir, Words_, outside.Files, outside.Dialogs)
+    , CommandState_(Main_, outside.Events)
+    , Navigation_(Registry_, Main_.Tabs(), Main_.Lists(), Main_.Help(), CommandState_)
+    , Documents_(Registry_, Main_, Main_.Tabs(), outside.Dialogs, CommandState_)
+    , Scanner_(Registry_, Settings_, Main_.Lists(), {Words_.LanguageDefinition, Languages_},
+               outside.Events)
+    , SymbolLists_(Registry_, Main_.Lists())
+    , QuickHelp_(Settings_, Words_, Registry_)
+    , CompilerLog_(outside.AppDir, Registry_, Documents_, outside.Files, outside.Dialogs)
+    , Compiler_(outside.Console, outside.Events, Main_, CompilerLog_)
+    , Build_({Registry_, Documents_, Settings_, Compiler_, CompilerLog_, outside.Launcher,
+              outside.Dialogs})
+    , Toolbar_(Commands_, Registry_, Project_)
+    , ShutDown_{Project_, [] {}, Registry_, Documents_, Store_} {
+    FillCommands();
+    FillEditCommands();
+    FillEvents();
+}
+
+void Program::Start() {
+    Main_.DisableMissingCommands();
+    StartUp{Outside_.AppDir, Main_, CommandState_, {Words_.LanguageDefinition, Languages_},
+            WordFiles_, Store_, Main_.Help()}
+        .Run();
+    Main_.show();
+}
+
+void Program::FillCommands() {
+    const auto add = [this](const char *name, std::function<void()> command) {
+        Commands_[QString::fromUtf8(name)] = std::move(command);
+    };
+    add("mnuArchivo_Nuevo", [this] { Documents_.NewDocument(); });
+    add("mnuArchivo_Abrir", [this] {
+        Documents_.OpenDocument(QString());
+        Scanner_.ScanSymbols();
+    });
+    add("mnuArchivo_Guardar", [this] { Documents_.SaveDocument(); });
+    add("mnuArchivo_GuardarComo", [this] { Documents_.SaveDocumentAs(); });
+    add("mnuArchivo_Cerrar", [this] { Documents_.mnuArchivo_Cerrar_Click(); });
+    add("mnuArchivo_CerrarTodo", [this] { Documents_.mnuArchivo_CerrarTodo_Click(); });
+    add("mnuArchivo_Imprimir", [this] { Documents_.mnuArchivo_Imprimir_Click(); });
+    add("mnuArchivo_Salir", [this] { Main_.RequestClose(); });
+    add("mnuPrograma_ComprobarErrores", [this] { Build_.mnuPrograma_ComprobarErrores_Click(); });
+    add("mnuPrograma_Ejecutar", [this] { Build_.mnuPrograma_Ejecutar_Click(); });
+    add("mnuPrograma_CrearEXE", [this] { Build_.mnuPrograma_CrearEXE_Click(); });
+    add("mnuPrograma_ModoDebug", [this] { mnuPrograma_ModoDebug_Click(DebugMode_, Main_); });
+    add("mnuVentana_Anterior", [this] { Navigation_.ActivatePrevious(); });
+    add("mnuVentana_Siguiente", [this] { Navigation_.ActivateNext(); });
+    add("mnuVentana_Ayuda", [this] { Navigation_.mnuVentana_Ayuda_Click(); });
+    add("mnuAyuda_Contextual", [this] { Navigation_.mnuVentana_Ayuda_Click(); });
+    add("tbEstandar_Inicio", [this] {
+        Main_.Help().Navigate(Settings_.HelpPath);
+        Navigation_.mnuVentana_Ayuda_Click();
+    });
+    add("tbEstandar_Atras", [this] { Main_.Help().GoBack(); });
+    add("tbEstandar_Adelante", [this] { Main_.Help().GoForward(); });
+}
+
+void Program::FillEditCommands() {
+    for (const EditCommand &command : EditCommands())
+        Commands_[QString::fromUtf8(command.Name)] = [this, run = command.Run] {
+            run(CurrentEditor());
+        };
+}
+
+void Program::FillEvents() {
+    Events_.ToolButtonClick = [this](const QString &tooltip) {
+        Toolbar_.tbEstandar_ButtonClick(tooltip);
+    };
+    Events_.TabClick = [this](int tab) { Navigation_.tabDocuments_Click(tab); };
+    Events_.ListUsed = [this](NavigationList list) { SymbolLists_.GotoSelected(list); };
+    Events_.ChildActivated = [this](const DocumentWindow *child) {
+        Navigation_.ActivateWindow(child);
+    };
+    Events_.MakeDocumentWindow = [this] { return MakeDocumentWindow(); };
+    Events_.MayClose = [this] { return ShutDown_.Run(); };
+}
+
+frmDoc *Program::MakeDocumentWindow() {
+    const EditorViewParts view{Settings_,  Registry_, Scanner_,
+                               QuickHelp_, Main_,     Outside_.Events};
+    return new frmDoc({view, Languages_, Find_, Outside_.Dialogs, Boundary_,
+                       [this] { Documents_.mnuArchivo_Cerrar_Click(); }});
+}
+
+EditorControl &Program::CurrentEditor() { return Registry_.Current().Window->Editor(); }
+
+} // namespace Quillbox

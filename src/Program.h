@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/CommandState.h"
+#include "app/Menus.h"
+#include "app/Navigation.h"
+#include "app/ShutDown.h"
+#include "app/StartUp.h"
+#include "app/Toolbar.h"
+#include "app/WordFiles.h"
+#include "app/frmMain.h"
+#include "app/settings.h"
+#include "build/BuildCommands.h"
+#include "build/Compiler.h"
+#include "build/CompilerLog.h"
+#include "documents/DocumentCommands.h"
+#include "documents/DocumentRegistry.h"
+#include "editor/EditorView.h"
+#include "editor/QuickHelp.h"
+#include "editor/SymbolLists.h"
+#include "editor/SymbolScanner.h"
+#include "editor/frmDoc.h"
+#include "platform/qt/EventBoundary.h"
+#include "platform/qt/ScintillaSearch.h"
+#include "platform/qt/LanguageCatalogue.h"
+#include "project/Project.h"
+
+namespace Quillbox {
+
+class ConsoleProcess;
+class Files;
+class PrivateProfile;
+class Programs;
+
+/// What the program needs of the system and of people.
+struct Outside {
+    QString AppDir; ///< the program folder with its separator
+    Quillbox::Files &Files;
+    PrivateProfile &Profile;
+    ConsoleProcess &Console;
+    Programs &Launcher;
+    Quillbox::Dialogs &Dialogs;
+    EventLoop &Events;
+};
+
+/// Everything behind the main window: the records of the process and the rules that share them, in
+/// the order in which they need one another. Nothing is decided here.
+class Program {
+  public:
+    explicit Program(const Outside &outside);
+
+    /// Runs the start-up and shows the main window. A run-time error means that the program ends.
+    void Start();
+
+    frmMain &Main() { return Main_; }
+    DocumentRegistry &Registry() { return Registry_; }
+    Settings &Options() { return Settings_; }
+
+  private:
+    void FillCommands();
+    void FillEditCommands();
+    void FillEvents();
+    frmDoc *MakeDocumentWindow();
+    EditorControl &CurrentEditor();
+
+    Outside Outside_;
+    EventBoundary Boundary_;
+    Settings Settings_;
+    LanguageWords Words_;
+    DocumentRegistry Registry_;
+    Project Project_;
+    bool DebugMode_ = false;
+    CommandTable Commands_;
+    MainWindowEvents Events_;
+    LanguageCatalogue Languages_;
+    FindState Find_;
+    frmMain Main_;
+    SettingsStore Store_;
+    WordFiles WordFiles_;
+    CommandState CommandState_;
+    Navigation Navigation_;
+    DocumentCommands Documents_;
+    SymbolScanner Scanner_;
+    SymbolLists SymbolLists_;
+    QuickHelp QuickHelp_;
+    CompilerLog CompilerLog_;
+    Compiler Compiler_;
+    BuildCommands Build_;
+    ToolbarDispatch Toolbar_;
+    ShutDown ShutDown_;
+};
+
+} // namespace Quillbox

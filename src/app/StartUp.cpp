@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/StartUp.h"
+
+#include "app/CommandState.h"
+#include "app/WordFiles.h"
+#include "app/settings.h"
+#include "platform/MainWindow.h"
+#include "platform/Paths.h"
+#include "project/Project.h"
+
+namespace Quillbox {
+
+void StartUp::Run() {
+    Main.SetCaption(NoProjectCaption);
+    Commands.UpdateCommandState(false);
+    EnableProjectMenus(Main, false);
+    SetLanguageRules(Language.Definition);
+    Words.LoadKeywords();
+    Words.LoadQuickHelp();
+    Store.LoadSettings();
+    Language.Registration.RegisterLanguage(LanguageName, Language.Definition);
+    Help.Show();
+    Help.Navigate(AppDir + QStringLiteral("Ayuda") + PathSeparator + QStringLiteral("index.htm"));
+}
+
+} // namespace Quillbox

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "build/CompilerLog.h"
+
+#include "app/Numbers.h"
+#include "app/WordFiles.h"
+#include "documents/DocumentCommands.h"
+#include "documents/DocumentRegistry.h"
+#include "platform/AnsiText.h"
+#include "platform/Dialogs.h"
+#include "platform/DocumentWindow.h"
+#include "platform/EditorControl.h"
+#include "platform/Files.h"
+#include "platform/Paths.h"
+#include "platform/RuntimeError.h"
+
+namespace Quillbox {
+namespace {
+
+const QString ErrorStart = QStringLiteral("Error in file");
+const QString BeforeLine = QStringLiteral(" at line");
+const QString LineMark = QStringLiteral("at line");
+
+/// The text from `start` up to, not including, `end`; both 0-based.
+QString Cut(const QString &text, qsizetype start, qsizetype end) {
+    if (end < start)
+        throw InvalidArgument();
+    return text.mid(start, end - start);
+}
+
+} // namespace
+
+std::optional<QString> FindErrorLine(const QString &log) {
+    for (const QString &line : WholeLines(log))
+        if (line.startsWith(ErrorStart))
+            return line;
+    return std::nullopt;
+}
+
+ErrorLocation LocateError(const QString &errorLine) {
+    const qsizetype lineTextStart = errorLine.indexOf(LineMark) + LineMark.size();
+    const qsizetype fileTextStart = ErrorStart.size() + 1;
+    return {.FileText = Cut(errorLine, fileTextStart, errorLine.indexOf(BeforeLine)),
+            .LineText = Cut(errorLine, lineTextStart, errorLine.lastIndexOf(u':'))};
+}
+
+/// The separator stands twice, because the program folder ends in one already; the file system
+/// accepts that.
+CompilerLog::CompilerLog(const QString &appDir, DocumentRegistry &registry,
+                         DocumentCommands &documents, Files &files, Dialogs &dialogs)
+    : LogFile_(appDir + PathSeparator + QStringLiteral("CLog.tmp"))
+    , Registry_(registry)
+    , Documents_(documents)
+    , Files_(files)
+    , Dialogs_(dialogs) {}
+
+void CompilerLog::ShowCompilerErrors(const QString &output) {
+    CompileErrorFound = false;
+    const auto errorLine = FindErrorLine(KeepLog(output));
+    if (!errorLine)
+        return;
+    const ErrorLocation location = LocateError(*errorLine);
+    Documents_.OpenDocument(location.FileText);
+    ShowLine(location.LineText);
+    Dialogs_.ShowMessage({*errorLine, QStringLiteral("Quillbox")});
+    CompileErrorFound = true;
+}
+
+/// Returns what the log file holds, which is what gets searched.
+QString CompilerLog::KeepLog(const QString &output) {
+    if (!Files_.Write(LogFile_, ToAnsi(output + QStringLiteral("\r\n"))))
+        throw PathAccessError();
+    const auto log = Files_.Read(LogFile_);
+    if (!log)
+        throw PathAccessError();
+    return FromAnsi(*log);
+}
+
+void CompilerLog::ShowLine(const QString &lineText) {
+    const LineIndex line{ToLong(LeadingNumber(lineText) - 1)};
+    EditorControl &editor = Registry_.Current().Window->Editor();
+    editor.SetHighlightedLine(line);
+    editor.SetTopIndex(line);
+    editor.SetCaretPos({line, {0}});
+}
+
+} // namespace Quillbox

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "build/modExecCMD.h"
+
+#include "platform/AnsiText.h"
+#include "platform/ConsoleProcess.h"
+#include "platform/Dialogs.h"
+#include "platform/EventLoop.h"
+#include "platform/Files.h"
+
+namespace Quillbox {
+namespace {
+
+constexpr std::size_t PipeSize = 0x100000;
+constexpr std::size_t ReadCapacity = 30720;
+
+/// What was opened before the failure stays open: this is settled behaviour of the runner.
+QString Failure(const char *call, const ConsoleProcess &console) {
+    return QStringLiteral("Error: %1 failed. %2")
+        .arg(QLatin1String(call))
+        .arg(console.LastError());
+}
+
+} // namespace
+
+QString ExecCmd(const QString &commandLine, ConsoleProcess &console, EventLoop &eventLoop) {
+    const auto pump = [&] { eventLoop.ProcessPendingEvents(); };
+
+    pump();
+    const auto pipe = console.CreatePipe(PipeSize);
+    pump();
+    if (!pipe)
+        return Failure("CreatePipe", console);
+    pump();
+    const auto process = console.CreateProcess(commandLine, pipe->WriteEnd);
+    pump();
+    if (!process)
+        return Failure("CreateProcess", console);
+    pump();
+    console.WaitForProcess(process->Process);
+    pump();
+    const auto output = console.ReadFile(pipe->ReadEnd, ReadCapacity);
+    pump();
+    if (!output)
+        return Failure("ReadFile", console);
+    pump();
+    for (const SystemHandle handle :
+         {process->Process, process->Thread, pipe->ReadEnd, pipe->WriteEnd})
+        console.CloseHandle(handle);
+    pump();
+    return FromAnsi(*output);
+}
+
+bool FileExists(const QString &path, Files &files, Dialogs &dialogs) {
+    if (files.CanRead(path))
+        return true;
+    dialogs.ShowMessage({QStringLiteral("El archivo ") + path + QStringLiteral(" no existe."),
+                         QStringLiteral("Error"), MessageIcon::Exclamation, MessageButtons::Ok});
+    return false;
+}
+
+} // namespace Quillbox

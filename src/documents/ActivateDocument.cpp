@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "documents/ActivateDocument.h"
+
+#include "documents/DocumentRegistry.h"
+#include "platform/DocumentWindow.h"
+#include "platform/EditorControl.h"
+
+namespace Quillbox {
+
+void ActivateDocument(const Document &document) {
+    document.Window->Activate();
+    document.Window->Maximize();
+    document.Window->Editor().SetFocus();
+}
+
+} // namespace Quillbox

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+namespace Quillbox {
+
+/// What the file choosers for sources offer.
+inline const QString SourceFilter =
+    QStringLiteral("Programas de Fenix (*.prg)|*.prg");
+
+struct FileNameParts {
+    QString Directory; ///< with its separator at the end, empty without a folder
+    QString FileName;
+};
+
+/// Splits at the last separator. On Linux a path in Windows form splits at its last "\".
+FileNameParts SplitFileName(const QString &path);
+
+/// `text` without its last `count` characters; run-time error 5 when it is shorter.
+QString WithoutLast(const QString &text, int count);
+
+} // namespace Quillbox

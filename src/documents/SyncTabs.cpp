@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "documents/SyncTabs.h"
+
+#include "documents/DocumentRegistry.h"
+#include "platform/MainWindow.h"
+
+namespace Quillbox {
+
+void SyncTabs(DocumentRegistry &registry, TabStrip &tabs) {
+    const int position = registry.CurrentIndex + 1;
+    if (tabs.SelectedTab() != position)
+        tabs.SelectTab(position);
+    if (registry.CurrentIndex > 0)
+        tabs.SetTabCaption(registry.CurrentIndex + 1, registry.Current().FileName);
+}
+
+} // namespace Quillbox

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+namespace Quillbox {
+
+class DocumentWindow;
+class EventLoop;
+class MainWindow;
+class QuickHelp;
+class SymbolScanner;
+struct DocumentRegistry;
+struct Settings;
+
+/// What every document's view shares.
+struct EditorViewParts {
+    const Settings &Options;
+    DocumentRegistry &Registry;
+    SymbolScanner &Scanner;
+    QuickHelp &Help;
+    MainWindow &Main;
+    EventLoop &Events;
+};
+
+/// The behaviour of one document's window: it configures the editor and follows its events.
+class EditorView {
+  public:
+    EditorView(DocumentWindow &window, const EditorViewParts &parts);
+
+    void Form_Load();
+    /// The window came into view or was uncovered.
+    void Form_Paint();
+    void txtCode_Change();
+    void txtCode_KeyDown();
+    /// `keyCode`: Enter 13, Backspace 8, Delete 46; other keys have other numbers.
+    void txtCode_KeyUp(int keyCode);
+    void txtCode_MouseUp();
+    void txtCode_RClick();
+    /// A typed control character; true when it was used up here. Ctrl+E (5) selects all.
+    bool txtCode_KeyPress(int characterCode);
+    void txtCode_GotFocus();
+
+  private:
+    void ShowCaretPosition();
+
+    DocumentWindow &Window_;
+    EditorViewParts Parts_;
+    double LineCountAtKeyDown_ = 0;
+};
+
+/// Sizes of a document's window in units of 1/1440 inch or in pixels, as the caller likes.
+struct DocumentLayout {
+    int EditorWidth;
+    int EditorHeight;
+    int FirstPanelMinimumWidth;
+};
+
+/// What stands beside the editor in a window's width: the frame of a document window.
+inline constexpr int FrameWidthTwips = 115;
+
+/// Where editor and first status panel end. `frameWidth` is FrameWidthTwips in the units of the
+/// other values; `otherPanels` is the sum of the minimum widths of panels 2 to 8.
+DocumentLayout LayOutDocument(int windowWidth, int statusBarTop, int frameWidth, int otherPanels);
+
+} // namespace Quillbox

@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/qt/QtDialogs.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+
+namespace Quillbox {
+namespace {
+
+QMessageBox::Icon IconOf(MessageIcon icon) {
+    switch (icon) {
+    case MessageIcon::Critical:
+        return QMessageBox::Critical;
+    case MessageIcon::Question:
+        return QMessageBox::Question;
+    case MessageIcon::Exclamation:
+        return QMessageBox::Warning;
+    case MessageIcon::Information:
+        return QMessageBox::Information;
+    case MessageIcon::None:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButtons ButtonsOf(MessageButtons buttons) {
+    switch (buttons) {
+    case MessageButtons::YesNo:
+        return QMessageBox::Yes | QMessageBox::No;
+    case MessageButtons::YesNoCancel:
+        return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case MessageButtons::Ok:
+        break;
+    }
+    return QMessageBox::Ok;
+}
+
+MessageAnswer AnswerOf(int button) {
+    switch (button) {
+    case QMessageBox::Yes:
+        return MessageAnswer::Yes;
+    case QMessageBox::No:
+        return MessageAnswer::No;
+    case QMessageBox::Cancel:
+        return MessageAnswer::Cancel;
+    default:
+        return MessageAnswer::Ok;
+    }
+}
+
+/// "Programas de Fenix (*.prg)|*.prg" names a caption and a pattern; Qt reads the pattern from the
+/// brackets of the caption.
+QString CaptionOf(const QString &filter) { return filter.section(u'|', 0, 0); }
+
+/// The ending that a pattern such as "*.prg" asks for.
+QString SuffixOf(const QString &filter) {
+    return QFileInfo(filter.section(u'|', 1, 1)).suffix();
+}
+
+/// Runs the chooser in `folder` and remembers where the person went.
+std::optional<QString> Choose(QFileDialog &dialog, QString &folder) {
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    if (!folder.isEmpty())
+        dialog.setDirectory(folder);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    folder = dialog.directory().absolutePath();
+    return QDir::toNativeSeparators(dialog.selectedFiles().constFirst());
+}
+
+} // namespace
+
+MessageAnswer QtDialogs::ShowMessage(const Message &message) {
+    QMessageBox box(IconOf(message.Icon), message.Caption, message.Text,
+                    ButtonsOf(message.Buttons), QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);
+    return AnswerOf(box.exec());
+}
+
+std::optional<QString> QtDialogs::ShowOpen(const FileChooser &chooser) {
+    QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Abrir"));
+    dialog.setNameFilter(CaptionOf(chooser.Filter));
+    dialog.setFileMode(chooser.Flags == FileChooserFlags::FileMustExist
+                           ? QFileDialog::ExistingFile
+                           : QFileDialog::AnyFile);
+    return Choose(dialog, Folder_);
+}
+
+std::optional<QString> QtDialogs::ShowSave(const FileChooser &chooser) {
+    QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Guardar como"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setNameFilter(CaptionOf(chooser.Filter));
+    dialog.setDefaultSuffix(SuffixOf(chooser.Filter));
+    dialog.setOption(QFileDialog::DontConfirmOverwrite,
+                     chooser.Flags != FileChooserFlags::OverwritePrompt);
+    dialog.selectFile(chooser.FileName);
+    return Choose(dialog, Folder_);
+}
+
+} // namespace Quillbox

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "project/Project.h"
+
+#include "platform/MainWindow.h"
+
+namespace Quillbox {
+
+void EnableProjectMenus(MainWindow &mainWindow, bool enabled) {
+    for (const QString &name : {QStringLiteral("mnuArchivo_GuardarProyecto"),
+                                QStringLiteral("mnuArchivo_GuardarProyectoComo"),
+                                QStringLiteral("mnuArchivo_CerrarProyecto")})
+        mainWindow.EnableCommand(name, enabled);
+}
+
+} // namespace Quillbox

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tools/frmAyuda.h"
+
+#include "platform/Paths.h"
+
+#include <QCloseEvent>
+#include <QFileInfo>
+#include <QMdiArea>
+#include <QStatusBar>
+#include <QTextBrowser>
+#include <QUrl>
+#include <QVBoxLayout>
+
+namespace Quillbox {
+namespace {
+
+QString MissingPage(const QString &page) {
+    return QStringLiteral("<h2>No se encuentra la página</h2><p>La página de ayuda <b>%1</b> no "
+                          "existe o no se puede leer.</p>")
+        .arg(page.toHtmlEscaped());
+}
+
+} // namespace
+
+frmAyuda::frmAyuda()
+    : htmlAyuda(new QTextBrowser) {
+    setObjectName(QStringLiteral("frmAyuda"));
+    setWindowTitle(QStringLiteral("Ayuda"));
+    htmlAyuda->setObjectName(QStringLiteral("htmlAyuda"));
+    htmlAyuda->setFrameShape(QFrame::NoFrame);
+
+    auto *statusBar = new QStatusBar;
+    statusBar->setObjectName(QStringLiteral("stbBarraEstado"));
+    statusBar->setSizeGripEnabled(false);
+    auto *panel = new QLabel(QStringLiteral("Ayuda de Quillbox"));
+    panel->setObjectName(QStringLiteral("stbBarraEstado_Panel1"));
+    statusBar->addWidget(panel, 1);
+
+    auto *client = new QWidget;
+    auto *layout = new QVBoxLayout(client);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(htmlAyuda);
+    layout->addWidget(statusBar);
+    setWidget(client);
+    client->setFocusProxy(htmlAyuda);
+    connect(htmlAyuda, &QTextBrowser::backwardAvailable, this, &frmAyuda::BackAvailable);
+    connect(htmlAyuda, &QTextBrowser::forwardAvailable, this, &frmAyuda::ForwardAvailable);
+}
+
+void frmAyuda::Show() { showMaximized(); }
+
+void frmAyuda::Navigate(const QString &page) {
+    const QString path = SystemPath(page);
+    if (QFileInfo(path).isFile())
+        htmlAyuda->setSource(QUrl::fromLocalFile(path));
+    else
+        htmlAyuda->setHtml(MissingPage(page));
+}
+
+void frmAyuda::GoBack() { htmlAyuda->backward(); }
+
+void frmAyuda::GoForward() { htmlAyuda->forward(); }
+
+void frmAyuda::SetFocus() {
+    mdiArea()->setActiveSubWindow(this);
+    if (!isMaximized())
+        showMaximized();
+    htmlAyuda->setFocus();
+}
+
+void frmAyuda::closeEvent(QCloseEvent *event) { event->ignore(); }
+
+} // namespace Quillbox
