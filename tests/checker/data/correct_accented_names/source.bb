@@ -1,0 +1,2 @@
+año=1
+If año=1 Then Print "ñandú"

@@ -1,0 +1,6 @@
+If a Then ; si pasa esto
+	Print "x"
+EndIf
+If a ; si pasa esto
+	Print "x"
+EndIf

@@ -1,0 +1,5 @@
+If a=1 Then Print "uno"
+If a=1 Then Print "uno" Else Print "otro"
+If a=1 Then Print "x" : Print "y" Else Print "z"
+If a=1 Then Print "x" ElseIf a=2 Then Print "y" Else Print "z"
+If a=1 Then Print "x" Else If a=2 Print "y" Else Print "z"

@@ -1,0 +1,3 @@
+Print "If Then Next Wend ( [ End Function"
+; If While ( "
+x=p\type : y.next=z ; Next )

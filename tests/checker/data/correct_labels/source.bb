@@ -1,0 +1,3 @@
+.inicio Print "x"
+.fin
+If a Then Goto inicio Else Gosub fin

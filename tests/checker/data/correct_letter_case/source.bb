@@ -1,0 +1,6 @@
+IF a THEN
+	wHILE b
+	WEND
+endif
+FUNCTION f()
+eND   fUNCTION

@@ -1,0 +1,1 @@
+If aPrint "x"EndIf

@@ -1,0 +1,3 @@
+If a
+Print "x"
+EndIf

@@ -1,0 +1,7 @@
+Repeat
+	Flip
+Until KeyHit(1)
+Repeat Until MouseHit(1)
+Repeat
+	Exit
+Forever

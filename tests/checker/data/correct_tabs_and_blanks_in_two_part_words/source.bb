@@ -1,0 +1,3 @@
+If a
+Else	 If b
+End 	 If

@@ -1,0 +1,4 @@
+While Not KeyHit(1)
+	Flip
+Wend
+While Not KeyHit(1) : Wend

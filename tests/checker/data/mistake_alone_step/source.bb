@@ -1,0 +1,2 @@
+Print "x"
+Step

@@ -1,0 +1,4 @@
+Type t
+If a
+EndIf
+End Type

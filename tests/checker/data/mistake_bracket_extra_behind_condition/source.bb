@@ -1,0 +1,1 @@
+If a) Then Print "x"

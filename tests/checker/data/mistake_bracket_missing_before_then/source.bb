@@ -1,0 +1,1 @@
+If (a=1 Then Print "x"

@@ -1,0 +1,3 @@
+Select a
+Case
+End Select

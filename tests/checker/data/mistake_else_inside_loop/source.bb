@@ -1,0 +1,5 @@
+If a
+While b
+Else
+Wend
+EndIf

@@ -1,0 +1,2 @@
+If a Then Print "x"
+EndIf

@@ -1,0 +1,2 @@
+If KeyHit(1) End
+EndIf

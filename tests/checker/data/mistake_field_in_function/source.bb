@@ -1,0 +1,3 @@
+Function f()
+Field x
+End Function

@@ -1,0 +1,3 @@
+Print (a
+Next
+Print "x

@@ -1,0 +1,2 @@
+For b.Bola=Each
+Next

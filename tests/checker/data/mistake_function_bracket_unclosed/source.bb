@@ -1,0 +1,2 @@
+Function f(a,b
+End Function

@@ -1,0 +1,3 @@
+Function a()
+Function b()
+End Function

@@ -1,0 +1,4 @@
+If a
+Function b()
+End Function
+EndIf

@@ -1,0 +1,2 @@
+If a Then Function b()
+End Function

@@ -1,0 +1,1 @@
+If Then Print "x"

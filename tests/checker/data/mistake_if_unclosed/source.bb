@@ -1,0 +1,3 @@
+Print "x"
+If a
+	Print "y"

@@ -1,0 +1,3 @@
+While a
+If b
+For i=1 To 3

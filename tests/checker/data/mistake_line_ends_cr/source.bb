@@ -1,0 +1,1 @@
+Print 1Print 2Next

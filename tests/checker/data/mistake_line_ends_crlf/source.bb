@@ -1,0 +1,3 @@
+Print 1
+
+Next

@@ -1,0 +1,3 @@
+Print 1
+Print 2
+Next

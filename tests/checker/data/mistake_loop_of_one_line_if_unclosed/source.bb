@@ -1,0 +1,2 @@
+If a Then For i=1 To 3
+Print i

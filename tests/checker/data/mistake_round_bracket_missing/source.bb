@@ -1,0 +1,2 @@
+Print Sin(45
+Next

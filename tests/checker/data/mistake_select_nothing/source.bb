@@ -1,0 +1,2 @@
+Select
+End Select

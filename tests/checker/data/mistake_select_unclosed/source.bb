@@ -1,0 +1,2 @@
+Select a
+Case 1

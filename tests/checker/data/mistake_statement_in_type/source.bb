@@ -1,0 +1,4 @@
+Type t
+Field x
+Print "x"
+End Type

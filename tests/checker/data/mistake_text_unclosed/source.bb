@@ -1,0 +1,3 @@
+Print "x"
+Print "hola
+Print "y"

@@ -1,0 +1,1 @@
+If a Then Then Print "x"

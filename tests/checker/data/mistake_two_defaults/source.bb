@@ -1,0 +1,4 @@
+Select a
+Default
+Default
+End Select

@@ -1,0 +1,4 @@
+If a
+Else
+Else
+EndIf

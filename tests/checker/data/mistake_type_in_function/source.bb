@@ -1,0 +1,4 @@
+Function f()
+Type t
+End Type
+End Function

@@ -1,0 +1,2 @@
+Type t
+Field x

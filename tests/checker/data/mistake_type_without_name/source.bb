@@ -1,0 +1,2 @@
+Type
+End Type

@@ -1,0 +1,2 @@
+Repeat
+Until

@@ -1,0 +1,2 @@
+While
+Wend

@@ -1,0 +1,2 @@
+While a
+Flip

@@ -1,0 +1,4 @@
+; x
+While a
+	Flip
+End Function

@@ -1,0 +1,4 @@
+; x
+If a
+	Flip
+End Select

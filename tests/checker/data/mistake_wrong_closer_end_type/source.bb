@@ -1,0 +1,4 @@
+; x
+Select a
+	Flip
+End Type

@@ -1,0 +1,4 @@
+; x
+For i=1 To 3
+	Flip
+EndIf

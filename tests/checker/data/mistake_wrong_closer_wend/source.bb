@@ -1,0 +1,4 @@
+; x
+Repeat
+	Flip
+Wend
