@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+#include <string>
+#include <vector>
+
+namespace Quillbox {
+
+/// What the rules asked of all fakes of a test, in order: "tabs.AddTab 2 juego.prg".
+class CallLog {
+  public:
+    template <typename... Parts>
+    void Add(const std::string &call, const Parts &...parts) {
+        std::string entry = call;
+        ((entry += ' ' + Text(parts)), ...);
+        Calls_.push_back(entry);
+    }
+
+    const std::vector<std::string> &Calls() const { return Calls_; }
+    void Clear() { Calls_.clear(); }
+
+  private:
+    static std::string Text(const QString &value) { return value.toStdString(); }
+    static std::string Text(const std::string &value) { return value; }
+    static std::string Text(const char *value) { return value; }
+    static std::string Text(bool value) { return value ? "true" : "false"; }
+    static std::string Text(int value) { return std::to_string(value); }
+
+    std::vector<std::string> Calls_;
+};
+
+} // namespace Quillbox

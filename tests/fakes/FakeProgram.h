@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/CommandState.h"
+#include "app/Navigation.h"
+#include "app/settings.h"
+#include "documents/DocumentCommands.h"
+#include "documents/DocumentRegistry.h"
+#include "fakes/FakeMainWindow.h"
+#include "fakes/FakeSystem.h"
+
+#include <gtest/gtest.h>
+
+namespace Quillbox {
+
+/// The rules around the documents, with fakes on every side. Clicks on tabs reach the navigation, as
+/// in the real program.
+class FakeProgram : public testing::Test {
+  protected:
+    FakeProgram() {
+        Tabs.Click = [this](int tab) { Walk.tabDocuments_Click(tab); };
+    }
+
+    FakeDocumentWindow &WindowOf(int position) {
+        return dynamic_cast<FakeDocumentWindow &>(*Registry.Documents[position].Window);
+    }
+    FakeEditor &EditorOf(int position) { return WindowOf(position).TextEditor; }
+
+    /// Puts files on the fake disk and opens them in order.
+    void Open(const std::vector<QString> &paths) {
+        for (const QString &path : paths) {
+            Disk.Texts[path] = QStringLiteral("text of ") + path;
+            Documents.OpenDocument(path);
+        }
+        Log.Clear();
+    }
+
+    CallLog Log;
+    FakeDisk Disk;
+    FakeMainWindow Main{Log, Disk};
+    FakeTabStrip Tabs{Log};
+    FakeNavigationLists Lists{Log};
+    FakeHelpViewer Help{Log};
+    FakeDialogs Questions{Log};
+    FakeEventLoop Events{Log};
+    FakeFiles Stored{Log};
+    FakeProfile Profile{Log};
+    FakeConsole Console{Log};
+    FakePrograms Launcher{Log};
+    FakeLanguageRegistration Languages{Log};
+    Settings Options;
+    DocumentRegistry Registry;
+    CommandState Commands{Main, Events};
+    Navigation Walk{Registry, Tabs, Lists, Help, Commands};
+    DocumentCommands Documents{Registry, Main, Tabs, Questions, Commands};
+};
+
+} // namespace Quillbox
