@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 #include <cstddef>
@@ -34,5 +35,8 @@ using PieceConsumer = std::function<void(std::string_view piece, std::size_t fil
 /// at most 1 MiB; an empty file has no piece. Empty on success; after an error the pieces that came
 /// before it are worthless.
 std::optional<FileError> ReadFileBytes(const QString &path, const PieceConsumer &consume);
+
+/// Sets `content` to all bytes of a small file; it is worthless after an error.
+std::optional<FileError> ReadWholeFile(const QString &path, QByteArray &content);
 
 } // namespace Quillbox

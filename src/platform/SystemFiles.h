@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/Files.h"
+
+namespace Quillbox {
+
+/// The files of the disk.
+class SystemFiles : public Files {
+  public:
+    bool CanRead(const QString &path) override;
+    std::optional<QByteArray> Read(const QString &path) override;
+    /// The file holds all old or all new bytes afterwards (see ReplaceFile).
+    bool Write(const QString &path, const QByteArray &content) override;
+};
+
+} // namespace Quillbox
