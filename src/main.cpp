@@ -1,2 +1,56 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-int main() { return 0; }
+#include "Program.h"
+
+#include "app/AppDir.h"
+#include "platform/ProfileFiles.h"
+#include "platform/ProgramFolder.h"
+#include "platform/SystemConsoleProcess.h"
+#include "platform/SystemFiles.h"
+#include "platform/SystemPrograms.h"
+#include "platform/qt/QtDialogs.h"
+#include "platform/qt/QtEventLoop.h"
+#include "platform/qt/SpanishInterface.h"
+#include "tools/frmLogo.h"
+
+#include <QApplication>
+#include <QIcon>
+
+#include <optional>
+
+using namespace Quillbox;
+
+namespace {
+
+/// A run-time error during start-up ends the program.
+void StartOrQuit(std::optional<Program> &program, const Outside &outside) {
+    try {
+        program.emplace(outside).Start();
+    } catch (const RuntimeError &error) {
+        outside.Dialogs.ShowMessage(
+            {ErrorMessage(error), QStringLiteral("Quillbox"), MessageIcon::Critical});
+        std::exit(EXIT_FAILURE);
+    }
+}
+
+} // namespace
+
+int main(int argc, char *argv[]) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Quillbox"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/quillbox.svg")));
+
+    const QString appDir = AppDirOf(ProgramFolder());
+    const SpanishInterface spanish(appDir);
+    SystemFiles files;
+    ProfileFiles profile;
+    SystemConsoleProcess console;
+    SystemPrograms programs;
+    QtDialogs dialogs;
+    QtEventLoop events;
+    const Outside outside{appDir, files, profile, console, programs, dialogs, events};
+
+    std::optional<Program> program;
+    frmLogo splash([&] { StartOrQuit(program, outside); }, events);
+    splash.show();
+    return QApplication::exec();
+}
