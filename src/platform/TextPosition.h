@@ -1,20 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <compare>
-
 namespace Quillbox {
 
 /// A line of a text, 0-based. -1 stands for no line where an operation says so.
 struct LineIndex {
     int Value = 0;
-    auto operator<=>(const LineIndex &) const = default;
+    bool operator==(const LineIndex &) const = default;
 };
 
 /// A line as people and compilers count it, 1-based.
 struct LineNumber {
     int Value = 1;
-    auto operator<=>(const LineNumber &) const = default;
+    bool operator==(const LineNumber &) const = default;
 };
 
 constexpr LineNumber NumberOf(LineIndex line) { return {line.Value + 1}; }
@@ -22,13 +20,13 @@ constexpr LineNumber NumberOf(LineIndex line) { return {line.Value + 1}; }
 /// A column of a line in characters, 0-based; the column after the last character is valid.
 struct ColumnIndex {
     int Value = 0;
-    auto operator<=>(const ColumnIndex &) const = default;
+    bool operator==(const ColumnIndex &) const = default;
 };
 
 /// A column as people count it, 1-based.
 struct ColumnNumber {
     int Value = 1;
-    auto operator<=>(const ColumnNumber &) const = default;
+    bool operator==(const ColumnNumber &) const = default;
 };
 
 constexpr ColumnNumber NumberOf(ColumnIndex column) { return {column.Value + 1}; }
@@ -36,7 +34,7 @@ constexpr ColumnNumber NumberOf(ColumnIndex column) { return {column.Value + 1};
 struct TextPosition {
     LineIndex Line;
     ColumnIndex Column;
-    auto operator<=>(const TextPosition &) const = default;
+    bool operator==(const TextPosition &) const = default;
 };
 
 /// A stretch of text; normalised: `Start` is never after `End`.
