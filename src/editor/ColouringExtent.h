@@ -24,8 +24,8 @@ struct ColouringExtent {
     /// starts in the state that it had before.
     bool MayJump(std::int64_t lineStart) const;
     void Jump();
-    /// Nothing is right any more.
-    void Invalidate();
+    /// Nothing from `position` on is right any more.
+    void InvalidateFrom(std::int64_t position);
     /// User words changed: from `shownStart`, a line start, everything is to be coloured again,
     /// what lies before it only when it comes into view.
     void InvalidateUserWords(std::int64_t shownStart);

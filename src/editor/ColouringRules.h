@@ -65,9 +65,11 @@ class ColouringRules {
         Word,
         Digit,
         NumberPrefix, ///< ".", "$" or "%"
+        NumberPrefixOrOperator,
         Operator,
-        OperandEnd, ///< an operator that ends an operand: ")" or "]"
-        Marker,     ///< a marker may start here
+        OperandEnd, ///< ")" or "]"
+        OperandEndOperator,
+        Marker, ///< a marker may start here
     };
     enum class MarkerKind : unsigned char { Comment, MultiLineComment, String };
     struct Marker {
@@ -75,13 +77,15 @@ class ColouringRules {
         MarkerKind Kind;
     };
 
+    void ClassifyBytes(const QString &operators);
+    void SetClass(char byte, ByteClass byteClass);
     void AddMarker(const QString &text, MarkerKind kind);
-    void AddOperators(const QString &operators);
-    ByteClass ClassOf(char byte) const { return Classes_[static_cast<unsigned char>(byte)]; }
+    ByteClass ClassWithoutMarker(char byte) const {
+        return ClassesWithoutMarkers_[static_cast<unsigned char>(byte)];
+    }
 
     std::array<ByteClass, 256> Classes_{};
     std::array<ByteClass, 256> ClassesWithoutMarkers_{};
-    std::array<bool, 256> IsOperator_{};
     std::vector<Marker> Markers_; ///< longest first
     std::string MultiLineCommentEnd_;
     WordSet Words_;

@@ -20,18 +20,25 @@ constexpr bool IsWordByte(char byte) {
 /// The form in which words are compared: upper case unless the language tells cases apart.
 std::string FoldedWord(std::string_view utf8, CaseSensitivity sensitivity);
 
-/// A set of words, each with a mark, made for finding words of a long text. Case counts as the
-/// constructor says.
+/// A set of words, each with a mark, made for finding the words of a long text.
 class WordSet {
   public:
     using Mark = std::uint8_t;
     static constexpr Mark NoMark = 0;
 
+    struct ReadWord {
+        std::size_t Length; ///< in bytes
+        Mark Tag;           ///< NoMark for a word that is not in the set
+    };
+
     explicit WordSet(CaseSensitivity sensitivity);
 
-    /// A word that is there already keeps its mark. `mark` is not NoMark.
+    /// A word that is there already keeps its mark. `mark` is not NoMark. A word with a byte that
+    /// words are not made of is never found.
     void Add(std::string_view word, Mark mark);
-    /// NoMark for a word that is not in the set. Words of ASCII letters allocate nothing.
+    /// Reads the word bytes that `text` begins with. Allocates nothing for ASCII words.
+    ReadWord Read(std::string_view text) const;
+    /// The mark of `word`.
     Mark Find(std::string_view word) const;
 
   private:
@@ -43,12 +50,14 @@ class WordSet {
     };
 
     Mark FindFolded(std::string_view folded) const;
+    Mark FindHashed(std::string_view word, std::uint32_t hash) const;
+    void Insert(const Slot &slot);
     void Grow();
 
     CaseSensitivity Case_;
     std::vector<Slot> Slots_; ///< a power of two, at most half full, probed linearly
     std::size_t Count_ = 0;
-    std::string Letters_;
+    std::string Letters_; ///< folded
 };
 
 } // namespace Quillbox

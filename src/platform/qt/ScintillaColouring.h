@@ -23,8 +23,9 @@ class ScintillaColouring {
     void TextDeleted(BytePosition position, BytePosition length);
     /// The component shows another text, nothing of which is coloured.
     void TextReplaced();
-    /// The component shows the text of another one, with the colours that it has.
-    void TakeOver(const ScintillaColouring &other);
+    /// The component shows the text of another one, with the colours that it has. From now on
+    /// `other` leaves the colouring to this one, until its component shows a text of its own.
+    void TakeOver(ScintillaColouring &other);
 
     /// Colours as far as `end` at least.
     void ColourUpTo(BytePosition end);
@@ -32,16 +33,21 @@ class ScintillaColouring {
     void PrepareShownText();
     void PrepareWholeText();
 
+    TextStyle StyleAt(BytePosition position) const;
+
   private:
-    void WriteStyles(BytePosition start, BytePosition length);
+    void ColourPiece(BytePosition start, BytePosition end);
     BytePosition PieceEnd(BytePosition start, BytePosition wanted) const;
-    BytePosition FindJump(BytePosition start, BytePosition end) const;
+    bool MayJumpFrom(BytePosition start, BytePosition end) const;
+    void WriteStyles(BytePosition start, BytePosition length);
     BytePosition FirstShownPosition() const;
     void Synchronise();
+    void TellEndOfColours();
 
     const ScintillaText &Text_;
     std::shared_ptr<const ColouringRules> Rules_;
     ColouringExtent Extent_;
+    bool GivenAway_ = false;
     std::vector<TextStyle> Styles_; ///< of the piece at hand
 };
 

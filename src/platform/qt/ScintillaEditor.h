@@ -11,11 +11,10 @@
 
 #include <functional>
 
-class QPrinter;
-
 namespace Quillbox {
 
 class Dialogs;
+class EditorPrinter;
 struct FileError;
 struct FindState;
 
@@ -69,8 +68,8 @@ class ScintillaEditor final : public QsciScintillaBase, public EditorControl {
     void TakeContentsFrom(EditorControl &other) override;
     void SetFocus() override;
     void Print(const QString &fileName) override;
-    /// Prints on a printer that is set up already; returns the number of pages, 0 when it failed.
-    int PrintOn(QPrinter &printer, const QString &fileName);
+    /// Prints on a printer that is set up already.
+    void PrintOn(EditorPrinter &printer);
 
     void SetHighlightedLine(LineIndex line) override;
     void SetTopIndex(LineIndex line) override;
@@ -80,7 +79,7 @@ class ScintillaEditor final : public QsciScintillaBase, public EditorControl {
     void ReplaceSel(const QString &text) override;
 
   signals:
-    /// After each edit, undo and redo, and once after a file has been loaded.
+    /// After each edit, undo and redo, and once when the control has got another text.
     void TextChanged();
     void ModifiedChanged(bool modified);
     /// Before the key does anything; repeated while it is held.
@@ -92,25 +91,46 @@ class ScintillaEditor final : public QsciScintillaBase, public EditorControl {
     void FocusReceived();
 
   protected:
+    bool event(QEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
+    void inputMethodEvent(QInputMethodEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    QByteArray fromMimeData(const QMimeData *source, bool &rectangular) const override;
+    QMimeData *toMimeData(const QByteArray &text, bool rectangular) const override;
 
   private:
+    void SetUpControl();
+    void SetUpDocument();
+    void FollowLanguage(const QString &name, LanguageChange change);
+    void InsertLineBreak();
+    void ReplaceSelection(std::string_view utf8);
+    std::size_t CaretInLine(LineIndex line) const;
     void OnModified(int position, int type, const char *text, int length, int linesAdded);
-    void OnCharacterAdded(int character);
-    void TellFailure(const QString &sentence, const FileError &error, const QString &path);
+    /// Runs `action`, then tells what it changed, once for the outermost action.
+    void Perform(const std::function<void()> &action);
+    void TellChanges();
+    void TellChangesSoon();
+    void TellOtherText();
+    void TellSaveFailure(const QString &path, const FileError &error);
+    void ShowError(const QString &text);
 
     const LanguageCatalogue &Languages_;
     FindState &Find_;
     Dialogs &Dialogs_;
     ScintillaText Text_;
     ScintillaStyles Styles_;
-    ScintillaColouring Colouring_;
+    mutable ScintillaColouring Colouring_; ///< asking for a token's class colours its line
     QString Language_;
+    int ActionDepth_ = 0;
+    bool TextHasChanged_ = false;
+    bool LinesHaveChanged_ = false;
+    bool KnownModified_ = false;
+    bool LineIsHighlighted_ = false;
 };
 
 } // namespace Quillbox

@@ -6,9 +6,9 @@
 
 #include <Qsci/qsciscintillabase.h>
 
-class QDialog;
-
 namespace Quillbox {
+
+class FindDialog;
 
 struct FindRequest {
     QString Term;
@@ -23,17 +23,21 @@ struct FindState {
     FindRequest Request;
     QString Replacement;
     QPointer<QsciScintillaBase> Editor; ///< the one that had the keyboard last
-    QPointer<QDialog> Dialog;
+    QPointer<FindDialog> Dialog;
 };
 
 /// Selects the next match behind (or before) the selection, going on at the other end of the text.
 /// False when there is none; then the selection stays.
 bool SelectMatch(QsciScintillaBase &editor, const FindRequest &request, FindDirection direction);
 
-/// Replaces the selection when it is a match; then selects the next match. False when there was
-/// nothing to replace.
-bool ReplaceMatch(QsciScintillaBase &editor, const FindRequest &request,
-                  const QString &replacement);
+struct Replaced {
+    bool Selection; ///< the selection was a match
+    bool FoundNext;
+};
+
+/// Replaces the selection when it is a match; then selects the next match.
+Replaced ReplaceMatch(QsciScintillaBase &editor, const FindRequest &request,
+                      const QString &replacement);
 
 /// Replaces every match in the text as one undo step; returns their number.
 int ReplaceAllMatches(QsciScintillaBase &editor, const FindRequest &request,

@@ -31,17 +31,20 @@ class ScintillaStyles {
     static constexpr std::size_t SlotCount = 31;
     static constexpr std::size_t ClassCount = 9;
 
+    void SetUpMargins() const;
     void ApplyAll();
-    void ApplyStyle(TextStyle style);
-    void ApplyFont(int styleNumber, FontStyleClass textClass);
-    void ApplyWindow();
-    void ApplyMargin();
+    void ApplyClasses();
+    void ApplyStyle(int number, Color foreground, Color background, FontStyleClass textClass);
+    void ApplyAccents();
+    void ApplyMarginWidth();
+    Color &SlotOf(ColorSlot slot) { return Colors_[static_cast<std::size_t>(slot)]; }
     Color ColorOf(ColorSlot slot) const { return Colors_[static_cast<std::size_t>(slot)]; }
 
     const ScintillaText &Text_;
     std::array<Color, SlotCount> Colors_;
     std::array<int, ClassCount> FontStyles_{};
-    QByteArray FontName_;
+    QString FontName_ = QStringLiteral("Courier");
+    QByteArray FontFamily_; ///< the installed one that stands for FontName_
     int FontSize_ = 10;
     int TabSize_ = 8;
     int NumberDigits_ = 0;

@@ -16,7 +16,9 @@ namespace Quillbox {
 /// A place in the editing component's text in bytes of UTF-8, 0-based.
 using BytePosition = std::intptr_t;
 
-/// `text` as UTF-8 in which each character that the code page lacks is a "?".
+/// `text` with a "?" in place of each character that the code page lacks.
+QString EditorCharacters(const QString &text);
+/// The same as UTF-8.
 QByteArray EditorBytes(const QString &text);
 
 /// The text of an editing component: messages to it, and the way from lines and character columns
@@ -35,6 +37,8 @@ class ScintillaText {
     BytePosition LineStart(LineIndex line) const;
     /// Before the line end.
     BytePosition LineEnd(LineIndex line) const;
+    /// Behind the line end.
+    BytePosition NextLineStart(LineIndex line) const;
     BytePosition Caret() const;
     BytePosition SelectionStart() const;
     BytePosition SelectionEnd() const;
@@ -45,15 +49,29 @@ class ScintillaText {
 
     BytePosition PositionOf(TextPosition position) const;
     TextPosition PositionAt(BytePosition position) const;
+    int CharactersIn(BytePosition start, BytePosition end) const;
 
     /// As one undo step.
     void Replace(BytePosition start, BytePosition end, std::string_view replacement) const;
 
   private:
-    using DirectFunction = std::intptr_t (*)(void *, unsigned, std::uintptr_t, std::intptr_t);
+    using DirectFunction = std::intptr_t (*)(QsciScintillaQt *, unsigned, std::uintptr_t,
+                                             std::intptr_t);
 
     DirectFunction Function_;
-    void *Target_;
+    QsciScintillaQt *Target_;
+};
+
+/// All edits during its life are one undo step.
+class UndoStep {
+  public:
+    explicit UndoStep(const ScintillaText &text);
+    ~UndoStep();
+    UndoStep(const UndoStep &) = delete;
+    UndoStep &operator=(const UndoStep &) = delete;
+
+  private:
+    const ScintillaText &Text_;
 };
 
 } // namespace Quillbox

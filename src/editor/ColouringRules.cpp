@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/ColouringRules.h"
+
+#include "editor/ColouringScanner.h"
+
+#include <QStringList>
+
+#include <algorithm>
+
+namespace Quillbox {
+
+namespace {
+
+bool HasLineEnd(std::string_view text) {
+    return text.find_first_of("\r\n") != std::string_view::npos;
+}
+
+bool IsAsciiDigit(char byte) { return byte >= '0' && byte <= '9'; }
+
+void AddWords(WordSet &words, const QString &list, TextStyle style) {
+    const QStringList items = list.split(u'\n', Qt::SkipEmptyParts);
+    for (const QString &item : items)
+        words.Add(item.toStdString(), static_cast<WordSet::Mark>(style));
+}
+
+} // namespace
+
+ColouringRules::ColouringRules(const LanguageDefinition &language)
+    : Words_(language.Case) {
+    AddWords(Words_, language.Keywords, TextStyle::Keyword);
+    AddWords(Words_, language.UserWords, TextStyle::UserWord);
+    ClassifyBytes(language.Operators);
+    AddMarker(language.SingleLineComment, MarkerKind::Comment);
+    const std::string commentEnd = language.MultiLineCommentEnd.toStdString();
+    if (!commentEnd.empty() && !HasLineEnd(commentEnd)) {
+        MultiLineCommentEnd_ = commentEnd;
+        AddMarker(language.MultiLineCommentStart, MarkerKind::MultiLineComment);
+    }
+    AddMarker(language.StringDelimiter, MarkerKind::String);
+    std::stable_sort(Markers_.begin(), Markers_.end(), [](const Marker &one, const Marker &other) {
+        return one.Text.size() > other.Text.size();
+    });
+}
+
+void ColouringRules::ClassifyBytes(const QString &operators) {
+    for (const char *blank = " \t\v\f"; *blank != '\0'; ++blank)
+        SetClass(*blank, ByteClass::Blank);
+    const QStringList items = operators.split(u'\n', Qt::SkipEmptyParts);
+    for (const QString &item : items)
+        if (item.size() == 1 && item[0].unicode() > u' ' && item[0].unicode() < 0x7F)
+            SetClass(item[0].toLatin1(), ByteClass::Operator);
+    for (const char *prefix = ".$%"; *prefix != '\0'; ++prefix) {
+        const bool isOperator = ClassWithoutMarker(*prefix) == ByteClass::Operator;
+        SetClass(*prefix, isOperator ? ByteClass::NumberPrefixOrOperator : ByteClass::NumberPrefix);
+    }
+    for (const char *end = ")]"; *end != '\0'; ++end) {
+        const bool isOperator = ClassWithoutMarker(*end) == ByteClass::Operator;
+        SetClass(*end, isOperator ? ByteClass::OperandEndOperator : ByteClass::OperandEnd);
+    }
+    for (int code = 0; code < 256; ++code)
+        if (IsWordByte(static_cast<char>(code)))
+            SetClass(static_cast<char>(code),
+                     IsAsciiDigit(static_cast<char>(code)) ? ByteClass::Digit : ByteClass::Word);
+    SetClass('\r', ByteClass::LineEnd);
+    SetClass('\n', ByteClass::LineEnd);
+    Classes_ = ClassesWithoutMarkers_;
+}
+
+void ColouringRules::SetClass(char byte, ByteClass byteClass) {
+    ClassesWithoutMarkers_[static_cast<unsigned char>(byte)] = byteClass;
+}
+
+void ColouringRules::AddMarker(const QString &text, MarkerKind kind) {
+    std::string bytes = text.toStdString();
+    if (bytes.empty() || HasLineEnd(bytes))
+        return;
+    Classes_[static_cast<unsigned char>(bytes.front())] = ByteClass::Marker;
+    Markers_.push_back({std::move(bytes), kind});
+}
+
+ColouringState ColouringRules::Colour(std::string_view text, ColouringState state,
+                                      TextStyle *styles) const {
+    return ColouringScanner(*this, text, styles).Run(state);
+}
+
+} // namespace Quillbox

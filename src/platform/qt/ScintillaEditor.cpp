@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/qt/ScintillaEditor.h"
+
+#include "platform/Paths.h"
+#include "platform/qt/ScintillaKeys.h"
+#include "platform/qt/ScintillaMarks.h"
+#include "platform/qt/ScintillaSearch.h"
+
+#include <QPointer>
+
+#include <cstring>
+
+namespace Quillbox {
+
+namespace {
+
+/// Pieces of text whose widths are kept. Measuring is what makes a very long line slow; with most
+/// of its pieces known, a letter typed into it costs a look-up for each of the others.
+constexpr int KnownWidths = 16 * 1024;
+
+} // namespace
+
+ScintillaEditor::ScintillaEditor(const LanguageCatalogue &languages, FindState &find,
+                                 Dialogs &dialogs, QWidget *parent)
+    : QsciScintillaBase(parent)
+    , Languages_(languages)
+    , Find_(find)
+    , Dialogs_(dialogs)
+    , Text_(*this)
+    , Styles_(Text_)
+    , Colouring_(Text_) {
+    setAccessibleName(tr("Editor de código"));
+    // Without this, each blink of the caret would paint the window behind the editor as well.
+    viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+    SetUpControl();
+    SetUpDocument();
+    connect(&Languages_, &LanguageCatalogue::LanguageChanged, this,
+            &ScintillaEditor::FollowLanguage);
+    connect(this, &QsciScintillaBase::SCN_STYLENEEDED, this,
+            [this](int position) { Colouring_.ColourUpTo(position); });
+    connect(this, &QsciScintillaBase::SCN_MODIFIED, this, &ScintillaEditor::OnModified);
+    connect(this, &QsciScintillaBase::SCN_SAVEPOINTLEFT, this, &ScintillaEditor::TellChangesSoon);
+    connect(this, &QsciScintillaBase::SCN_SAVEPOINTREACHED, this,
+            &ScintillaEditor::TellChangesSoon);
+}
+
+ScintillaEditor::~ScintillaEditor() = default;
+
+void ScintillaEditor::SetUpControl() {
+    Text_.Send(SCI_SETMODEVENTMASK, SC_MOD_INSERTTEXT | SC_MOD_DELETETEXT);
+    Text_.Send(SCI_USEPOPUP, 0);
+    Text_.Send(SCI_SETSCROLLWIDTHTRACKING, 1);
+    Text_.Send(SCI_SETSCROLLWIDTH, 1);
+    Text_.Send(SCI_SETLAYOUTCACHE, SC_CACHE_PAGE);
+    Text_.Send(SCI_SETPOSITIONCACHE, KnownWidths);
+    ClearLetterCommands(Text_);
+}
+
+/// What belongs to the text shown and not to the component.
+void ScintillaEditor::SetUpDocument() {
+    Text_.Send(SCI_SETCODEPAGE, SC_CP_UTF8);
+    Text_.Send(SCI_SETLEXER, SCLEX_CONTAINER);
+    const bool carriageReturn = std::strcmp(LineEnd, "\r\n") == 0;
+    Text_.Send(SCI_SETEOLMODE, carriageReturn ? SC_EOL_CRLF : SC_EOL_LF);
+    Styles_.TextReplaced();
+}
+
+void ScintillaEditor::SetLanguage(const QString &name) {
+    if (Language_ == name)
+        return;
+    Language_ = name;
+    FollowLanguage(name, LanguageChange::Everything);
+}
+
+void ScintillaEditor::FollowLanguage(const QString &name, LanguageChange change) {
+    if (name != Language_)
+        return;
+    Colouring_.SetRules(Languages_.FindRules(name), change);
+    viewport()->update();
+}
+
+void ScintillaEditor::SetColorSyntax(bool on) { Styles_.SetColorSyntax(on); }
+void ScintillaEditor::SetColor(ColorSlot slot, Color color) { Styles_.SetColor(slot, color); }
+void ScintillaEditor::SetFontStyle(FontStyleClass textClass, int style) {
+    Styles_.SetFontStyle(textClass, style);
+}
+void ScintillaEditor::SetFontName(const QString &name) { Styles_.SetFontName(name); }
+void ScintillaEditor::SetFontSize(int points) { Styles_.SetFontSize(points); }
+void ScintillaEditor::SetTabSize(int columns) { Styles_.SetTabSize(columns); }
+void ScintillaEditor::SetLineNumbers(bool shown) { Styles_.SetLineNumbers(shown); }
+
+void ScintillaEditor::OnModified(int position, int type, const char *, int length, int linesAdded) {
+    if ((type & SC_MOD_INSERTTEXT) != 0)
+        Colouring_.TextInserted(position, length);
+    else if ((type & SC_MOD_DELETETEXT) != 0)
+        Colouring_.TextDeleted(position, length);
+    else
+        return;
+    TextHasChanged_ = true;
+    LinesHaveChanged_ = LinesHaveChanged_ || linesAdded != 0;
+    TellChangesSoon();
+}
+
+void ScintillaEditor::Perform(const std::function<void()> &action) {
+    const QPointer<ScintillaEditor> self(this);
+    ++ActionDepth_;
+    try {
+        action();
+    } catch (...) {
+        if (self)
+            --ActionDepth_;
+        throw;
+    }
+    if (!self)
+        return;
+    --ActionDepth_;
+    TellChanges();
+}
+
+void ScintillaEditor::TellChanges() {
+    if (ActionDepth_ > 0)
+        return;
+    const bool textChanged = std::exchange(TextHasChanged_, false);
+    if (std::exchange(LinesHaveChanged_, false))
+        Styles_.TextLinesChanged();
+    if (textChanged && std::exchange(LineIsHighlighted_, false))
+        HighlightLine(Text_, {-1});
+    const bool modified = IsModified();
+    const QPointer<ScintillaEditor> self(this);
+    if (std::exchange(KnownModified_, modified) != modified)
+        emit ModifiedChanged(modified);
+    if (self && textChanged)
+        emit TextChanged();
+}
+
+/// The editing component must not be asked for changes while it reports one, and listeners do that.
+/// Where no action of this class is under way, they are told as soon as the component is done.
+void ScintillaEditor::TellChangesSoon() {
+    if (ActionDepth_ == 0)
+        QMetaObject::invokeMethod(this, &ScintillaEditor::TellChanges, Qt::QueuedConnection);
+}
+
+} // namespace Quillbox

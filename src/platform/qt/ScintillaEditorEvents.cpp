@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/qt/ScintillaEditor.h"
+#include "platform/qt/ScintillaKeys.h"
+#include "platform/qt/ScintillaSearch.h"
+
+#include <QContextMenuEvent>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+
+namespace Quillbox {
+
+namespace {
+
+bool IsLineBreakKey(const QKeyEvent &event) {
+    const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    const auto others = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    return enter && (event.modifiers() & others) == 0;
+}
+
+} // namespace
+
+bool ScintillaEditor::event(QEvent *event) {
+    bool handled = false;
+    Perform([&] { handled = QsciScintillaBase::event(event); });
+    return handled;
+}
+
+bool ScintillaEditor::viewportEvent(QEvent *event) {
+    bool handled = false;
+    Perform([&] { handled = QsciScintillaBase::viewportEvent(event); });
+    return handled;
+}
+
+void ScintillaEditor::keyPressEvent(QKeyEvent *event) {
+    emit KeyDown();
+    const int control = ControlCharacterOf(*event);
+    if (control != 0 && CharacterTyped && CharacterTyped(control))
+        return event->accept();
+    if (IsLineBreakKey(*event)) {
+        InsertLineBreak();
+        return event->accept();
+    }
+    const QString characters = EditorCharacters(event->text());
+    if (characters == event->text())
+        return QsciScintillaBase::keyPressEvent(event);
+    QKeyEvent typed(event->type(), event->key(), event->modifiers(), characters,
+                    event->isAutoRepeat(), static_cast<quint16>(event->count()));
+    QsciScintillaBase::keyPressEvent(&typed);
+    event->setAccepted(typed.isAccepted());
+}
+
+/// A new line takes over the blanks and tabs that the line before it begins with.
+void ScintillaEditor::InsertLineBreak() {
+    static constexpr std::string_view lineEnds[] = {"\r\n", "\r", "\n"};
+    const BytePosition start = Text_.SelectionStart();
+    const std::string_view before = Text_.Bytes(Text_.LineStart(Text_.LineOf(start)), start);
+    const std::size_t indent = std::min(before.find_first_not_of(" \t"), before.size());
+    std::string lineBreak(lineEnds[Text_.Send(SCI_GETEOLMODE)]);
+    lineBreak += before.substr(0, indent);
+    ReplaceSelection(lineBreak);
+}
+
+void ScintillaEditor::keyReleaseEvent(QKeyEvent *event) {
+    QsciScintillaBase::keyReleaseEvent(event);
+    if (!event->isAutoRepeat())
+        emit KeyUp(WindowsKeyCodeOf(*event));
+}
+
+void ScintillaEditor::inputMethodEvent(QInputMethodEvent *event) {
+    const QString characters = EditorCharacters(event->commitString());
+    if (characters == event->commitString())
+        return QsciScintillaBase::inputMethodEvent(event);
+    QInputMethodEvent committed(event->preeditString(), event->attributes());
+    committed.setCommitString(characters, event->replacementStart(), event->replacementLength());
+    QsciScintillaBase::inputMethodEvent(&committed);
+    event->setAccepted(committed.isAccepted());
+}
+
+void ScintillaEditor::mouseReleaseEvent(QMouseEvent *event) {
+    QsciScintillaBase::mouseReleaseEvent(event);
+    emit MouseReleased();
+}
+
+void ScintillaEditor::contextMenuEvent(QContextMenuEvent *event) {
+    event->accept();
+    emit ContextMenuRequested(event->globalPos());
+}
+
+void ScintillaEditor::focusInEvent(QFocusEvent *event) {
+    QsciScintillaBase::focusInEvent(event);
+    Find_.Editor = this;
+    emit FocusReceived();
+}
+
+void ScintillaEditor::paintEvent(QPaintEvent *event) {
+    Colouring_.PrepareShownText();
+    QsciScintillaBase::paintEvent(event);
+}
+
+/// What is pasted or dropped shows at once which characters cannot be kept.
+QByteArray ScintillaEditor::fromMimeData(const QMimeData *source, bool &rectangular) const {
+    QsciScintillaBase::fromMimeData(source, rectangular);
+    return EditorBytes(source->text());
+}
+
+/// The component hands over a copied text only as far as its first NUL; the whole one is the
+/// selection.
+QMimeData *ScintillaEditor::toMimeData(const QByteArray &text, bool rectangular) const {
+    const std::string_view selected = Text_.Bytes(Text_.SelectionStart(), Text_.SelectionEnd());
+    const std::string_view given(text.constData(), static_cast<std::size_t>(text.size()));
+    const bool whole = rectangular || !selected.starts_with(given);
+    const QByteArray copied =
+        whole ? text : QByteArray(selected.data(), static_cast<qsizetype>(selected.size()));
+    return QsciScintillaBase::toMimeData(copied, rectangular);
+}
+
+} // namespace Quillbox

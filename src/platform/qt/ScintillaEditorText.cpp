@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/ColouringTokens.h"
+#include "platform/qt/ScintillaEditor.h"
+#include "platform/qt/ScintillaMarks.h"
+
+#include <algorithm>
+
+namespace Quillbox {
+
+namespace {
+
+QString FromUtf8(std::string_view bytes) {
+    return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
+}
+
+std::string_view ViewOf(const QByteArray &bytes) {
+    return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
+}
+
+} // namespace
+
+int ScintillaEditor::LineCount() const { return Text_.LineCount(); }
+
+QString ScintillaEditor::LineText(LineIndex line) const { return FromUtf8(Text_.LineBytes(line)); }
+
+int ScintillaEditor::LineLength(LineIndex line) const {
+    return Text_.CharactersIn(Text_.LineStart(line), Text_.LineEnd(line));
+}
+
+void ScintillaEditor::SetLinePosition(LineIndex line) {
+    Text_.Send(SCI_GOTOPOS, Text_.LineStart(line));
+}
+
+QString ScintillaEditor::CurrentWord() const {
+    const LineIndex line = Text_.LineOf(Text_.Caret());
+    const std::string_view bytes = Text_.LineBytes(line);
+    const WordExtent word = WordTouching(bytes, CaretInLine(line));
+    return FromUtf8(bytes.substr(word.Start, word.Length));
+}
+
+TokenClass ScintillaEditor::CurrentTokenClass() const {
+    const LineIndex line = Text_.LineOf(Text_.Caret());
+    const BytePosition start = Text_.LineStart(line);
+    Colouring_.ColourUpTo(Text_.NextLineStart(line));
+    return TokenClassTouching(
+        Text_.LineBytes(line), CaretInLine(line), [this, start](std::size_t offset) {
+            return Colouring_.StyleAt(start + static_cast<BytePosition>(offset));
+        });
+}
+
+std::size_t ScintillaEditor::CaretInLine(LineIndex line) const {
+    const BytePosition caret = std::min(Text_.Caret(), Text_.LineEnd(line));
+    return static_cast<std::size_t>(caret - Text_.LineStart(line));
+}
+
+TextRange ScintillaEditor::GetSel() const {
+    const BytePosition start = Text_.SelectionStart();
+    const BytePosition end = Text_.SelectionEnd();
+    const TextPosition startPosition = Text_.PositionAt(start);
+    return {startPosition, start == end ? startPosition : Text_.PositionAt(end)};
+}
+
+void ScintillaEditor::DeleteSel() {
+    if (Text_.SelectionStart() != Text_.SelectionEnd())
+        Perform([this] { Text_.Send(SCI_CLEAR); });
+}
+
+QString ScintillaEditor::Text() const { return FromUtf8(Text_.Bytes(0, Text_.Length())); }
+
+void ScintillaEditor::SetHighlightedLine(LineIndex line) {
+    LineIsHighlighted_ = line.Value >= 0;
+    HighlightLine(Text_, line);
+}
+
+void ScintillaEditor::SetTopIndex(LineIndex line) {
+    Text_.Send(SCI_SETFIRSTVISIBLELINE, Text_.NearestLine(line).Value);
+}
+
+void ScintillaEditor::SetCaretPos(TextPosition position) {
+    Text_.Send(SCI_GOTOPOS, Text_.PositionOf(position));
+}
+
+void ScintillaEditor::InsertText(const QString &text, TextPosition position) {
+    const QByteArray bytes = EditorBytes(text);
+    const BytePosition place = Text_.PositionOf(position);
+    const bool atCaret = place == Text_.SelectionStart() && place == Text_.SelectionEnd();
+    Perform([&] {
+        Text_.Replace(place, place, ViewOf(bytes));
+        if (atCaret)
+            Text_.Send(SCI_SETEMPTYSELECTION, place + bytes.size());
+    });
+}
+
+void ScintillaEditor::ReplaceSel(const QString &text) {
+    const QByteArray bytes = EditorBytes(text);
+    Perform([&] { ReplaceSelection(ViewOf(bytes)); });
+}
+
+/// As one undo step, with the caret behind the replacement.
+void ScintillaEditor::ReplaceSelection(std::string_view utf8) {
+    const UndoStep step(Text_);
+    if (Text_.SelectionStart() != Text_.SelectionEnd())
+        Text_.Send(SCI_CLEAR);
+    const BytePosition place = Text_.Caret();
+    Text_.Replace(place, place, utf8);
+    Text_.Send(SCI_GOTOPOS, place + static_cast<BytePosition>(utf8.size()));
+}
+
+} // namespace Quillbox
