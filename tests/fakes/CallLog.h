@@ -3,8 +3,16 @@
 
 #include <QString>
 
+#include <initializer_list>
+#include <ostream>
 #include <string>
+#include <string_view>
 #include <vector>
+
+/// Lets a failed comparison show its texts as texts. The test library looks beside the type.
+inline void PrintTo(const QString &text, std::ostream *stream) {
+    *stream << '"' << text.toStdString() << '"';
+}
 
 namespace Quillbox {
 
@@ -19,6 +27,17 @@ class CallLog {
     }
 
     const std::vector<std::string> &Calls() const { return Calls_; }
+
+    /// Only the calls of these fakes or these operations: {"tabs.", "window.Close"}.
+    std::vector<std::string> CallsOf(std::initializer_list<std::string_view> beginnings) const {
+        std::vector<std::string> chosen;
+        for (const std::string &call : Calls_)
+            for (const std::string_view beginning : beginnings)
+                if (call.starts_with(beginning))
+                    chosen.push_back(call);
+        return chosen;
+    }
+
     void Clear() { Calls_.clear(); }
 
   private:
