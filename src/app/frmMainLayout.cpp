@@ -79,8 +79,8 @@ void frmMain::EnableToolButtons(const QString &tooltip, bool enabled) {
 
 void frmMain::DisableMissingCommands() {
     for (const MenuEntry &entry : MenuEntries())
-        if (auto *action = findChild<QAction *>(QString::fromUtf8(entry.Name)))
-            action->setEnabled(Commands_.contains(action->objectName()));
+        if (*entry.Menu != '\0' && *entry.Name != '\0')
+            EnableCommand(QString::fromUtf8(entry.Name), true);
     for (const ToolButton &button : ToolButtons())
         EnableToolButtons(QString::fromUtf8(button.Tooltip), true);
     for (const QString &historyButton : {QStringLiteral("Atrás"), QStringLiteral("Adelante")})

@@ -3,6 +3,7 @@
 
 #include <QIcon>
 #include <QLabel>
+#include <QScreen>
 
 namespace Quillbox {
 namespace {
@@ -42,6 +43,7 @@ frmLogo::frmLogo(std::function<void()> showMainWindow, EventLoop &eventLoop)
     setObjectName(QStringLiteral("frmLogo"));
     setWindowTitle(CreditLine);
     setFixedSize(PictureSize);
+    move(screen()->geometry().center() - rect().center());
     AddLabel(this, QStringLiteral("Picture1"), QRect({0, 0}, PictureSize))
         ->setPixmap(QIcon(QStringLiteral(":/icons/splash.svg")).pixmap(PictureSize));
     AddText(this, QStringLiteral("Label1"), TitleArea, QStringLiteral("Quillbox"),

@@ -49,7 +49,14 @@ void Person::Press(const QStringList &keys) {
 }
 
 void Person::Type(const QString &text) {
-    Tool({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("8"), text});
+    const QStringList lines = text.split(u'\n');
+    for (qsizetype line = 0; line < lines.size(); ++line) {
+        if (line > 0)
+            Press({QStringLiteral("Return")});
+        if (!lines[line].isEmpty())
+            Tool({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("8"),
+                  lines[line]});
+    }
     Pause();
 }
 

@@ -89,7 +89,8 @@ bool BeginsWithDrive(const QString &path) {
 std::optional<QString> FindDriveFolder(QChar letter) {
     if (letter.toLower() == u'z')
         return QStringLiteral("/");
-    const QString prefix = qEnvironmentVariable("WINEPREFIX", QDir::homePath() + QStringLiteral("/.wine"));
+    const QString prefix =
+        qEnvironmentVariable("WINEPREFIX", QDir::homePath() + QStringLiteral("/.wine"));
     const QString folder = Joined(prefix, QStringLiteral("drive_") + letter.toLower());
     return Exists(folder, EntryKind::Folder) ? std::optional(folder) : std::nullopt;
 }
