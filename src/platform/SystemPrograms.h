@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/Programs.h"
+
+namespace Quillbox {
+
+/// The programs of the system.
+class SystemPrograms : public Programs {
+  public:
+    void Start(const QString &commandLine, WindowStyle style) override;
+    void SetEnvironmentVariable(const QString &name, const QString &value) override;
+};
+
+} // namespace Quillbox

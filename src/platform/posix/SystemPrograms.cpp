@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/SystemPrograms.h"
+
+#include "platform/RuntimeError.h"
+#include "platform/posix/Spawn.h"
+
+#include <QFile>
+
+#include <cerrno>
+
+namespace Quillbox {
+
+namespace {
+
+RuntimeError ErrorOfStart(int code) {
+    switch (code) {
+    case ENOENT:
+        return FileNotFound();
+    case EACCES:
+    case EPERM:
+        return PermissionDenied();
+    default:
+        return InvalidArgument();
+    }
+}
+
+} // namespace
+
+/// The window style is not passed on: here a program and the window manager decide about that.
+void SystemPrograms::Start(const QString &commandLine, WindowStyle) {
+    const SpawnResult spawned = Spawn(commandLine, std::nullopt, ChildSession::ItsOwn);
+    if (spawned.Error != 0)
+        throw ErrorOfStart(spawned.Error);
+    WaitForChildInBackground(spawned.Process);
+}
+
+void SystemPrograms::SetEnvironmentVariable(const QString &name, const QString &value) {
+    qputenv(name.toUtf8().constData(), QFile::encodeName(value));
+}
+
+} // namespace Quillbox
