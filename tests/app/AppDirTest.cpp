@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/AppDir.h"
+
+#include "fakes/CallLog.h"
+#include "platform/Paths.h"
+
+#include <gtest/gtest.h>
+
+namespace Quillbox {
+namespace {
+
+TEST(AppDir, IsTheProgramFolderAndASeparator) {
+    EXPECT_EQ(AppDirOf("/opt/quillbox"), QString("/opt/quillbox") + PathSeparator);
+}
+
+TEST(AppDir, DoublesTheSeparatorOfARoot) {
+    EXPECT_EQ(AppDirOf(QString(PathSeparator)), QString(PathSeparator) + PathSeparator);
+}
+
+} // namespace
+} // namespace Quillbox
