@@ -91,24 +91,23 @@ bool SymbolScanner::ScanLines() {
     return true;
 }
 
-/// The name runs from behind the character after the prefix to "(" or ".", or to the line's end.
+/// The name runs from behind the character after the prefix to "(" or ".", or to the line's end. It
+/// grows in the table, so a scan that is abandoned meanwhile leaves what it has read there.
 bool SymbolScanner::RecordFunction(const QString &text, int line, int &count) {
-    const qsizetype start = FunctionPrefix.size() + 1;
-    QString name;
-    for (qsizetype position = start; position < text.size(); ++position) {
+    if (count > SymbolTexts::LastIndex)
+        return true;
+    const auto name = [&]() -> QString & { return Registry_.Current().FunctionNames[count]; };
+    name().clear();
+    for (qsizetype position = FunctionPrefix.size() + 1; position < text.size(); ++position) {
         if (text[position] == u'(' || text[position] == u'.')
             break;
-        name += text[position];
+        name() += text[position];
         if (!YieldedWithDocument())
             return false;
     }
-    if (count > SymbolTexts::LastIndex)
-        return true;
-    Document &document = Registry_.Current();
-    document.FunctionNames[count] = name;
-    Language_.Definition.UserWords += u'\n' + name;
-    Lists_.AddItem(NavigationList::Functions, name);
-    document.FunctionLines[count] = QString::number(line);
+    Language_.Definition.UserWords += u'\n' + name();
+    Lists_.AddItem(NavigationList::Functions, name());
+    Registry_.Current().FunctionLines[count] = QString::number(line);
     ++count;
     return true;
 }
