@@ -28,6 +28,7 @@ void DocumentCommands::NewDocument() {
     NewDocumentGuard_ = true;
     Document &document = AddDocument();
     document.FileName = document.Window->Caption();
+    document.Directory.clear(); // an earlier document may have left its folder at this position
     document.Window->Show();
     AddSelectedTab();
     NewDocumentGuard_ = false;
