@@ -38,8 +38,9 @@ void ColouringExtent::Delete(std::int64_t position, std::int64_t length) {
 void ColouringExtent::Advance(std::int64_t position) {
     ValidEnd = position;
     OldEnd = std::max(OldEnd, position);
-    if (ValidEnd == OldEnd)
-        ChangedEnd = 0;
+    // What lies behind followed on other colours than those that are right now before it; an edit
+    // that comes before `position` later must not take the one for the other.
+    ChangedEnd = ValidEnd == OldEnd ? 0 : std::max(ChangedEnd, ValidEnd);
 }
 
 bool ColouringExtent::MayJump(std::int64_t lineStart) const {

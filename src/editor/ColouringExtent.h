@@ -11,10 +11,11 @@ namespace Quillbox {
 /// as soon as a line behind all edits starts in the same state as before, everything up to
 /// `OldEnd` is. That is how an edit at the top of a long text costs a few lines and no more.
 struct ColouringExtent {
-    std::int64_t ValidEnd = 0;   ///< colours are right before this position
-    std::int64_t ChangedEnd = 0; ///< no edit of the text that is not valid reaches beyond this
-    std::int64_t OldEnd = 0;     ///< from ChangedEnd up to here the colours of before are kept
-    std::int64_t StaleEnd = 0;   ///< before this, user words may show as they were before
+    std::int64_t ValidEnd = 0; ///< colours are right before this position
+    std::int64_t ChangedEnd =
+        0;                     ///< nothing behind this was edited or coloured since OldEnd was set
+    std::int64_t OldEnd = 0;   ///< from ChangedEnd up to here the colours of before are kept
+    std::int64_t StaleEnd = 0; ///< before this, user words may show as they were before
 
     void Insert(std::int64_t position, std::int64_t length);
     void Delete(std::int64_t position, std::int64_t length);

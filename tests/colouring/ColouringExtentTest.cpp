@@ -52,6 +52,15 @@ TEST(ColouringExtent, JumpsOnlyFromALineBehindAllEdits) {
     EXPECT_EQ(extent.ValidEnd, 110);
 }
 
+TEST(ColouringExtent, DoesNotTakeNewColoursForThoseBeforeAfterAnotherEdit) {
+    ColouringExtent extent = ColouredUpTo(100);
+    extent.Insert(10, 5);
+    extent.Advance(50);
+    extent.Insert(20, 1);
+    EXPECT_FALSE(extent.MayJump(51));
+    EXPECT_TRUE(extent.MayJump(52));
+}
+
 TEST(ColouringExtent, MovesTheEndOfEarlierEditsWithTheText) {
     ColouringExtent extent = ColouredUpTo(100);
     extent.Insert(60, 5);

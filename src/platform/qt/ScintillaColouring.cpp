@@ -105,7 +105,7 @@ void ScintillaColouring::ColourPiece(BytePosition start, BytePosition end) {
 /// further than the first line end behind it, where colours of before may turn out to be right.
 BytePosition ScintillaColouring::PieceEnd(BytePosition start, BytePosition wanted) const {
     BytePosition last = wanted;
-    if (Extent_.OldEnd > start && Extent_.ChangedEnd >= start)
+    if (Extent_.OldEnd > start && Extent_.ChangedEnd > start)
         last = std::min<BytePosition>(last, Extent_.ChangedEnd + 1);
     return Text_.NextLineStart(Text_.LineOf(std::max(start, last - 1)));
 }

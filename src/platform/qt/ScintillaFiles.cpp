@@ -68,7 +68,7 @@ class Loading {
         FollowFirstLineEnd();
         Text_.Send(Sci::SCI_SETSCROLLWIDTH, 1);
         Text_.Send(Sci::SCI_SETXOFFSET, 0);
-        Text_.Send(Sci::SCI_GOTOPOS, 0);
+        Text_.Send(Sci::SCI_SETFIRSTVISIBLELINE, 0);
     }
 
     void GoBack() {

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <QApplication>
+#include <QStandardPaths>
+#include <gmock/gmock.h>
+
+int main(int argc, char *argv[]) {
+    testing::InitGoogleMock(&argc, argv);
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    QStandardPaths::setTestModeEnabled(true);
+    return RUN_ALL_TESTS();
+}
