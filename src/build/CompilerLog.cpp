@@ -13,6 +13,9 @@
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 
+#include <algorithm>
+#include <limits>
+
 namespace Quillbox {
 namespace {
 
@@ -25,6 +28,19 @@ QString Cut(const QString &text, qsizetype start, qsizetype end) {
     if (end < start)
         throw InvalidArgument();
     return text.mid(start, end - start);
+}
+
+bool IsDigit(QChar character) { return character >= u'0' && character <= u'9'; }
+
+/// The line that a text beginning with a 1-based number means, -1 without a number. Only blanks and
+/// decimal digits count: a sign or a point is message already. A number that no line can have means
+/// the last line that can be named, so that the person still gets to read the error.
+LineIndex LineOf(const QString &lineText) {
+    const auto begin = std::ranges::find_if(
+        lineText, [](QChar character) { return character != u' ' && character != u'\t'; });
+    const auto end = std::find_if_not(begin, lineText.end(), IsDigit);
+    const double number = LeadingNumber(QStringView(begin, end));
+    return {static_cast<int>(std::min<double>(number - 1, std::numeric_limits<int>::max()))};
 }
 
 } // namespace
@@ -76,7 +92,7 @@ QString CompilerLog::KeepLog(const QString &output) {
 }
 
 void CompilerLog::ShowLine(const QString &lineText) {
-    const LineIndex line{ToLong(LeadingNumber(lineText) - 1)};
+    const LineIndex line = LineOf(lineText);
     EditorControl &editor = Registry_.Current().Window->Editor();
     editor.SetHighlightedLine(line);
     editor.SetTopIndex(line);
