@@ -2,6 +2,7 @@
 #include "editor/EditCommands.h"
 
 #include "fakes/FakeEditor.h"
+#include "fakes/TestRow.h"
 
 #include <gmock/gmock.h>
 
@@ -36,9 +37,8 @@ void RunCommand(const char *name, EditorControl &editor) {
     found->Run(editor);
 }
 
-struct Operation {
+struct Operation : TestRow {
     const char *Item;
-    const char *Name;
 };
 
 const std::set<std::string> AllOperations = {"Undo", "Redo", "Cut", "Copy", "Paste"};
@@ -68,12 +68,12 @@ TEST_P(ClipboardAndUndoCommand, DoesNothingWhenTheEditorSaysThatItCannot) {
 }
 
 INSTANTIATE_TEST_SUITE_P(EditMenu, ClipboardAndUndoCommand,
-                         testing::Values(Operation{"mnuEdicion_Deshacer", "Undo"},
-                                         Operation{"mnuEdicion_Rehacer", "Redo"},
-                                         Operation{"mnuEdicion_Cortar", "Cut"},
-                                         Operation{"mnuEdicion_Copiar", "Copy"},
-                                         Operation{"mnuEdicion_Pegar", "Paste"}),
-                         [](const auto &row) { return std::string(row.param.Name); });
+                         testing::Values(Operation{"Undo", "mnuEdicion_Deshacer"},
+                                         Operation{"Redo", "mnuEdicion_Rehacer"},
+                                         Operation{"Cut", "mnuEdicion_Cortar"},
+                                         Operation{"Copy", "mnuEdicion_Copiar"},
+                                         Operation{"Paste", "mnuEdicion_Pegar"}),
+                         RowName);
 
 class DeleteCommand : public testing::Test {
   protected:
@@ -98,7 +98,7 @@ TEST_F(DeleteCommand, DoesNothingWithAnEmptySelection) {
     EXPECT_THAT(Log.Calls(), IsEmpty());
 }
 
-struct Numbered {
+struct Numbered : TestRow {
     const char *Item;
     int Number;
 };
@@ -117,19 +117,19 @@ TEST_P(NumberedCommand, IsHandedToTheEditorByItsNumber) {
                 ElementsAre("editor.ExecuteCommand " + std::to_string(GetParam().Number)));
 }
 
-INSTANTIATE_TEST_SUITE_P(EditMenu, NumberedCommand,
-                         testing::Values(Numbered{"mnuEdicion_SeleccionarTodo", 137},
-                                         Numbered{"mnuEdicion_BuscarReemplazar", 169},
-                                         Numbered{"mnuEdicion_BuscarSiguiente", 176},
-                                         Numbered{"mnuEdicion_InsertarEliminarBookmark", 204},
-                                         Numbered{"mnuEdicion_BookmarkAnterior", 205},
-                                         Numbered{"mnuEdicion_BookmarkSiguiente", 206},
-                                         Numbered{"mnuEdicion_EliminarTodosBookmarks", 207},
-                                         Numbered{"mnuEdicion_PrimerBookmark", 208},
-                                         Numbered{"mnuEdicion_UltimoBookmark", 209}),
-                         [](const auto &row) {
-                             return std::string(row.param.Item).substr(sizeof "mnuEdicion");
-                         });
+INSTANTIATE_TEST_SUITE_P(
+    EditMenu, NumberedCommand,
+    testing::Values(Numbered{"SeleccionarTodo", "mnuEdicion_SeleccionarTodo", 137},
+                    Numbered{"BuscarReemplazar", "mnuEdicion_BuscarReemplazar", 169},
+                    Numbered{"BuscarSiguiente", "mnuEdicion_BuscarSiguiente", 176},
+                    Numbered{"InsertarEliminarBookmark", "mnuEdicion_InsertarEliminarBookmark",
+                             204},
+                    Numbered{"BookmarkAnterior", "mnuEdicion_BookmarkAnterior", 205},
+                    Numbered{"BookmarkSiguiente", "mnuEdicion_BookmarkSiguiente", 206},
+                    Numbered{"EliminarTodosBookmarks", "mnuEdicion_EliminarTodosBookmarks", 207},
+                    Numbered{"PrimerBookmark", "mnuEdicion_PrimerBookmark", 208},
+                    Numbered{"UltimoBookmark", "mnuEdicion_UltimoBookmark", 209}),
+    RowName);
 
 } // namespace
 } // namespace Quillbox

@@ -2,6 +2,7 @@
 #include "editor/QuickHelp.h"
 
 #include "EditorProgram.h"
+#include "fakes/TestRow.h"
 
 namespace Quillbox {
 namespace {
@@ -226,7 +227,7 @@ TEST_F(DeclarationHelp, LeavesItsEntryInTheCacheForOtherDocumentsToo) {
     EXPECT_EQ(Show("MOVER", TokenClass::Keyword, 2), "say(texto)");
 }
 
-struct CutRow {
+struct CutRow : TestRow {
     const char *Line;
     const char *Shown;
 };
@@ -240,24 +241,36 @@ TEST_P(DeclarationCut, BeginsAtCharacterTenWhateverTheKeywordIs) {
     EXPECT_EQ(Log.Calls().size(), 1U);
 }
 
-INSTANTIATE_TEST_SUITE_P(Lines, DeclarationCut,
-                         testing::Values(CutRow{"", ""}, CutRow{"p", ""}, CutRow{"1234567", ""},
-                                         CutRow{"12345678", ""}, CutRow{"123456789", ""},
-                                         CutRow{"1234567890", "0"},
-                                         CutRow{"function Mover()  ", "Mover()  "},
-                                         CutRow{"process Ñandú()", "andú()"}));
+INSTANTIATE_TEST_SUITE_P(
+    Lines, DeclarationCut,
+    testing::Values(CutRow{"OfNothing", "", ""}, CutRow{"OfOneCharacter", "p", ""},
+                    CutRow{"OfSevenCharacters", "1234567", ""},
+                    CutRow{"OfEightCharacters", "12345678", ""},
+                    CutRow{"OfNineCharacters", "123456789", ""},
+                    CutRow{"OfTenCharacters", "1234567890", "0"},
+                    CutRow{"ToTheLastBlank", "function Mover()  ", "Mover()  "},
+                    CutRow{"OfAccents", "process Ñandú()", "andú()"}),
+    RowName);
 
-class ClassWithoutHelp : public DeclarationHelp, public testing::WithParamInterface<TokenClass> {};
+struct ClassRow : TestRow {
+    TokenClass Class;
+};
+
+class ClassWithoutHelp : public DeclarationHelp, public testing::WithParamInterface<ClassRow> {};
 
 TEST_P(ClassWithoutHelp, LeavesThePanelAsItWas) {
-    Show("say", GetParam());
-    Show("Mover", GetParam());
+    Show("say", GetParam().Class);
+    Show("Mover", GetParam().Class);
     EXPECT_THAT(Log.Calls(), IsEmpty());
 }
 
 INSTANTIATE_TEST_SUITE_P(TokenClasses, ClassWithoutHelp,
-                         testing::Values(TokenClass::Text, TokenClass::Number, TokenClass::Operator,
-                                         TokenClass::Comment, TokenClass::String));
+                         testing::Values(ClassRow{"Text", TokenClass::Text},
+                                         ClassRow{"Number", TokenClass::Number},
+                                         ClassRow{"Operator", TokenClass::Operator},
+                                         ClassRow{"Comment", TokenClass::Comment},
+                                         ClassRow{"String", TokenClass::String}),
+                         RowName);
 
 TEST_F(DeclarationHelp, NeverTouchesThePanelWhenSwitchedOff) {
     Options.ShowQuickHelp = false;
