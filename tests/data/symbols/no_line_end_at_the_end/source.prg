@@ -1,0 +1,2 @@
+type Punto
+process ultimo
