@@ -85,14 +85,14 @@ void Program::FillEvents() {
     Events_.ChildActivated = [this](const DocumentWindow *child) {
         Navigation_.ActivateWindow(child);
     };
-    Events_.MakeDocumentWindow = [this] { return MakeDocumentWindow(); };
+    Events_.MakeDocumentWindow = [this](DocumentArea &area) { return MakeDocumentWindow(area); };
     Events_.MayClose = [this] { return ShutDown_.Run(); };
 }
 
-frmDoc *Program::MakeDocumentWindow() {
+frmDoc *Program::MakeDocumentWindow(DocumentArea &area) {
     const EditorViewParts view{Settings_,  Registry_, Scanner_,
                                QuickHelp_, Main_,     Outside_.Events};
-    return new frmDoc({view, Languages_, Find_, Outside_.Dialogs, Boundary_,
+    return new frmDoc({area, view, Languages_, Find_, Outside_.Dialogs, Boundary_,
                        [this] { Documents_.mnuArchivo_Cerrar_Click(); }});
 }
 

@@ -60,7 +60,7 @@ class Program {
     void FillCommands();
     void FillEditCommands();
     void FillEvents();
-    frmDoc *MakeDocumentWindow();
+    frmDoc *MakeDocumentWindow(DocumentArea &area);
     EditorControl &CurrentEditor();
 
     Outside Outside_;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/frmMain.h"
 
+#include "app/frmMainArea.h"
 #include "app/frmMainLists.h"
 #include "app/frmMainTabs.h"
 #include "editor/frmDoc.h"
@@ -9,9 +10,9 @@
 
 #include <QCloseEvent>
 #include <QCursor>
-#include <QMdiArea>
 #include <QMenu>
 #include <QPlainTextEdit>
+#include <QScreen>
 
 namespace Quillbox {
 
@@ -25,7 +26,7 @@ frmMain::frmMain(const CommandTable &commands, const MainWindowEvents &events,
     BuildToolbar();
     BuildDocumentArea();
     BuildLog();
-    resize(1000, 720);
+    resize(QSize(1000, 720).boundedTo(screen()->availableSize() * 0.95));
 }
 
 TabStrip &frmMain::Tabs() { return *tabDocuments; }
@@ -38,14 +39,12 @@ void frmMain::SetCaption(const QString &caption) { setWindowTitle(caption); }
 
 /// A command that does not exist yet stays disabled, whatever state it would have.
 void frmMain::EnableCommand(const QString &name, bool enabled) {
-    if (auto *menu = findChild<QMenu *>(name))
-        menu->menuAction()->setEnabled(enabled);
-    else if (auto *action = findChild<QAction *>(name))
-        action->setEnabled(enabled && Commands_.contains(name));
+    QAction *action = MenuActions_.value(name);
+    action->setEnabled(enabled && (action->menu() || Commands_.contains(name)));
 }
 
 void frmMain::CheckCommand(const QString &name, bool checked) {
-    auto *action = findChild<QAction *>(name);
+    QAction *action = MenuActions_.value(name);
     action->setCheckable(true);
     action->setChecked(checked);
 }
@@ -53,13 +52,11 @@ void frmMain::CheckCommand(const QString &name, bool checked) {
 void frmMain::SetLog(const QString &text) { txtLog->setPlainText(text); }
 
 DocumentWindow &frmMain::CreateDocumentWindow() {
-    frmDoc *document = Events_.MakeDocumentWindow();
-    Area_->addSubWindow(document);
-    return *document;
+    return *Events_.MakeDocumentWindow(*Area_);
 }
 
 void frmMain::PopUpEditMenu() {
-    findChild<QMenu *>(QStringLiteral("mnuEdicion"))->popup(QCursor::pos());
+    MenuActions_.value(QStringLiteral("mnuEdicion"))->menu()->popup(QCursor::pos());
 }
 
 void frmMain::RequestClose() { close(); }

@@ -4,14 +4,15 @@
 #include "app/Menus.h"
 #include "platform/MainWindow.h"
 
+#include <QHash>
 #include <QMainWindow>
 
-class QMdiArea;
 class QMdiSubWindow;
 class QPlainTextEdit;
 
 namespace Quillbox {
 
+class DocumentArea;
 class DocumentTabs;
 class EventBoundary;
 class NavigationBar;
@@ -26,7 +27,7 @@ struct MainWindowEvents {
     std::function<void(NavigationList)> ListUsed;
     /// The person made another child active by its own frame; null stands for the help page.
     std::function<void(const DocumentWindow *)> ChildActivated;
-    std::function<frmDoc *()> MakeDocumentWindow;
+    std::function<frmDoc *(DocumentArea &)> MakeDocumentWindow;
     std::function<bool()> MayClose;
 };
 
@@ -66,11 +67,13 @@ class frmMain final : public QMainWindow, public MainWindow {
     void OnChildActivated(QMdiSubWindow *child);
 
     const CommandTable &Commands_;
+    QHash<QString, QAction *> MenuActions_; ///< menus and items by control name
     const MainWindowEvents &Events_;
     const EventBoundary &Boundary_;
+    QToolBar *tbEstandar = nullptr;
     DocumentTabs *tabDocuments = nullptr;
     NavigationBar *NavigationBar_ = nullptr;
-    QMdiArea *Area_ = nullptr;
+    DocumentArea *Area_ = nullptr;
     frmAyuda *HelpWindow_ = nullptr;
     QPlainTextEdit *txtLog = nullptr;
 };

@@ -2,6 +2,7 @@
 #include "app/frmMain.h"
 
 #include "app/Toolbar.h"
+#include "app/frmMainArea.h"
 #include "app/frmMainLists.h"
 #include "app/frmMainTabs.h"
 #include "platform/qt/EventBoundary.h"
@@ -9,7 +10,6 @@
 
 #include <QDockWidget>
 #include <QFontDatabase>
-#include <QMdiArea>
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QToolBar>
@@ -41,30 +41,33 @@ void frmMain::BuildMenus() {
         if (*entry.Menu == '\0') {
             menu = menuBar()->addMenu(QString::fromUtf8(entry.Caption));
             menu->setObjectName(name);
+            MenuActions_[name] = menu->menuAction();
         } else if (name.isEmpty()) {
             menu->addSeparator();
         } else {
-            connect(AddMenuItem(*menu, entry), &QAction::triggered, this,
+            MenuActions_[name] = AddMenuItem(*menu, entry);
+            connect(MenuActions_[name], &QAction::triggered, this,
                     [this, name] { Boundary_.Run(Commands_.at(name)); });
         }
     }
 }
 
 void frmMain::BuildToolbar() {
-    QToolBar *bar = addToolBar(QStringLiteral("Estándar"));
-    bar->setObjectName(QStringLiteral("tbEstandar"));
-    bar->setIconSize(ToolIconSize);
-    bar->setMovable(false);
-    bar->setContextMenuPolicy(Qt::PreventContextMenu);
+    tbEstandar = addToolBar(QStringLiteral("Estándar"));
+    tbEstandar->setObjectName(QStringLiteral("tbEstandar"));
+    tbEstandar->setIconSize(ToolIconSize);
+    tbEstandar->setMovable(false);
+    tbEstandar->setContextMenuPolicy(Qt::PreventContextMenu);
     for (const ToolButton &button : ToolButtons()) {
         const QString tooltip = QString::fromUtf8(button.Tooltip);
         if (tooltip.isEmpty()) {
-            bar->addSeparator();
+            tbEstandar->addSeparator();
             continue;
         }
-        QAction *action = bar->addAction(IconNamed(button.Icon), tooltip, this, [this, tooltip] {
-            Boundary_.Run([&] { Events_.ToolButtonClick(tooltip); });
-        });
+        QAction *action =
+            tbEstandar->addAction(IconNamed(button.Icon), tooltip, this, [this, tooltip] {
+                Boundary_.Run([&] { Events_.ToolButtonClick(tooltip); });
+            });
         action->setObjectName(QStringLiteral("tbEstandar_") + tooltip);
         action->setToolTip(tooltip);
         action->setData(QString::fromUtf8(button.Command));
@@ -72,7 +75,7 @@ void frmMain::BuildToolbar() {
 }
 
 void frmMain::EnableToolButtons(const QString &tooltip, bool enabled) {
-    for (QAction *action : findChild<QToolBar *>(QStringLiteral("tbEstandar"))->actions())
+    for (QAction *action : tbEstandar->actions())
         if (action->toolTip() == tooltip && !action->isSeparator())
             action->setEnabled(enabled && Commands_.contains(action->data().toString()));
 }
@@ -97,10 +100,8 @@ void frmMain::BuildDocumentArea() {
     auto *centre = new QWidget;
     tabDocuments =
         new DocumentTabs([this](int tab) { Boundary_.Run([&] { Events_.TabClick(tab); }); });
-    Area_ = new QMdiArea;
-    Area_->setFrameShape(QFrame::NoFrame);
-    HelpWindow_ = new frmAyuda;
-    Area_->addSubWindow(HelpWindow_);
+    Area_ = new DocumentArea;
+    HelpWindow_ = new frmAyuda(*Area_);
     auto *layout = new QVBoxLayout(centre);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);

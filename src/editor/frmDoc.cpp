@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/frmDoc.h"
 
+#include "app/frmMainArea.h"
 #include "documents/DocumentRegistry.h"
 #include "platform/qt/EventBoundary.h"
 #include "platform/qt/ScintillaEditor.h"
 
 #include <QCloseEvent>
 #include <QLabel>
-#include <QMdiArea>
 #include <QStatusBar>
 
 namespace Quillbox {
@@ -42,6 +42,7 @@ frmDoc::frmDoc(const DocumentWindowParts &parts)
     Client_->setFocusProxy(txtCode);
     Client_->installEventFilter(this);
     ConnectEditor();
+    Parts_.Area.Add(this);
     View_.Form_Load();
 }
 
@@ -51,10 +52,10 @@ QString frmDoc::Caption() const { return windowTitle(); }
 
 void frmDoc::SetCaption(const QString &caption) { setWindowTitle(caption); }
 
-void frmDoc::Show() { show(); }
+void frmDoc::Show() { Parts_.Area.Show(this); }
 
 void frmDoc::Activate() {
-    mdiArea()->setActiveSubWindow(this);
+    Parts_.Area.Activate(this);
     Client_->update();
 }
 
@@ -64,7 +65,7 @@ void frmDoc::Maximize() {
 }
 
 void frmDoc::Close() {
-    mdiArea()->removeSubWindow(this);
+    Parts_.Area.Remove(this);
     deleteLater();
 }
 
@@ -100,8 +101,8 @@ void frmDoc::BuildStatusBar() {
         panel->setObjectName(QStringLiteral("stbBarraEstado_Panel%1").arg(index + 1));
         panel->setTextFormat(Qt::PlainText);
         panel->setMinimumWidth(Panels[index].Characters * characterWidth);
-        panel->setVisible(index == 0 || Panels[index].Characters > 0);
         stbBarraEstado->addWidget(panel, index == 0 ? 1 : 0);
+        panel->setHidden(index > 0 && Panels[index].Characters == 0);
         Panels_[index] = panel;
     }
     EnablePanel(StatusPanel::Modified, false);

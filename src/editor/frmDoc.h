@@ -15,6 +15,7 @@ class QStatusBar;
 namespace Quillbox {
 
 class Dialogs;
+class DocumentArea;
 class EventBoundary;
 class LanguageCatalogue;
 class ScintillaEditor;
@@ -22,6 +23,7 @@ struct FindState;
 
 /// What every document window needs.
 struct DocumentWindowParts {
+    DocumentArea &Area;
     EditorViewParts View;
     const LanguageCatalogue &Languages;
     FindState &Find;

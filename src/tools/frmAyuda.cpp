@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/frmAyuda.h"
 
+#include "app/frmMainArea.h"
 #include "platform/Paths.h"
 
 #include <QCloseEvent>
 #include <QFileInfo>
-#include <QMdiArea>
 #include <QStatusBar>
 #include <QTextBrowser>
 #include <QUrl>
@@ -22,8 +22,9 @@ QString MissingPage(const QString &page) {
 
 } // namespace
 
-frmAyuda::frmAyuda()
-    : htmlAyuda(new QTextBrowser) {
+frmAyuda::frmAyuda(DocumentArea &area)
+    : Area_(area)
+    , htmlAyuda(new QTextBrowser) {
     setObjectName(QStringLiteral("frmAyuda"));
     setWindowTitle(QStringLiteral("Ayuda"));
     htmlAyuda->setObjectName(QStringLiteral("htmlAyuda"));
@@ -44,11 +45,15 @@ frmAyuda::frmAyuda()
     layout->addWidget(statusBar);
     setWidget(client);
     client->setFocusProxy(htmlAyuda);
+    Area_.Add(this);
     connect(htmlAyuda, &QTextBrowser::backwardAvailable, this, &frmAyuda::BackAvailable);
     connect(htmlAyuda, &QTextBrowser::forwardAvailable, this, &frmAyuda::ForwardAvailable);
 }
 
-void frmAyuda::Show() { showMaximized(); }
+void frmAyuda::Show() {
+    Area_.Show(this);
+    showMaximized();
+}
 
 void frmAyuda::Navigate(const QString &page) {
     const QString path = SystemPath(page);
@@ -63,7 +68,7 @@ void frmAyuda::GoBack() { htmlAyuda->backward(); }
 void frmAyuda::GoForward() { htmlAyuda->forward(); }
 
 void frmAyuda::SetFocus() {
-    mdiArea()->setActiveSubWindow(this);
+    Area_.Activate(this);
     if (!isMaximized())
         showMaximized();
     htmlAyuda->setFocus();

@@ -9,12 +9,14 @@ class QTextBrowser;
 
 namespace Quillbox {
 
+class DocumentArea;
+
 /// The help page's window: the browser htmlAyuda and a status bar. It lives as long as the program;
 /// its close box does nothing.
 class frmAyuda final : public QMdiSubWindow, public HelpViewer {
     Q_OBJECT
   public:
-    frmAyuda();
+    explicit frmAyuda(DocumentArea &area);
 
     void Show() override;
     void Navigate(const QString &page) override;
@@ -30,6 +32,7 @@ class frmAyuda final : public QMdiSubWindow, public HelpViewer {
     void closeEvent(QCloseEvent *event) override;
 
   private:
+    DocumentArea &Area_;
     QTextBrowser *htmlAyuda;
 };
 
