@@ -84,6 +84,10 @@ TEST(ProfileText, IgnoresBlanksAroundTheNamesThatAreAskedFor) {
     EXPECT_EQ(FindProfileValue("[Uno]\r\nClave=valor\r\n", " Uno ", "\tClave "), "valor");
 }
 
+TEST(ProfileText, FindsNoKeyInAComment) {
+    EXPECT_EQ(FindProfileValue("[Uno]\r\n;Clave=valor\r\n", "Uno", ";Clave"), std::nullopt);
+}
+
 TEST(ProfileText, WritesValues) {
     const WriteCase cases[] = {
         {"empty text", "", "[Uno]\r\nClave=nuevo\r\n"},

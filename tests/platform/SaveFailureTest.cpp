@@ -269,6 +269,36 @@ TEST_F(SaveFailureTest, KeepsTheGroupAloneWhenTheOwnerMayNotBeGivenAway) {
     EXPECT_EQ(Content(), New);
 }
 
+TEST_F(SaveFailureTest, FlushesTheContentBeforeTheNameShowsItAndThenTheName) {
+    for (const bool linked : {false, true}) {
+        Clear();
+        WriteTestFile(PathOf("a.prg"), Old);
+        if (linked) {
+            ASSERT_EQ(::link(PathOf("a.prg").toUtf8(), PathOf("b.prg").toUtf8()), 0);
+        }
+        SystemCalls calls;
+        QStringList steps;
+        calls.Fsync = [&steps](int descriptor) {
+            struct stat status {};
+            EXPECT_EQ(::fstat(descriptor, &status), 0);
+            steps += S_ISDIR(status.st_mode) ? "flush folder" : "flush file";
+            return ::fsync(descriptor);
+        };
+        calls.Rename = [&steps](const char *from, const char *to) {
+            steps += "rename";
+            return ::rename(from, to);
+        };
+        calls.Unlink = [&steps](const char *name) {
+            steps += "remove copy";
+            return ::unlink(name);
+        };
+        EXPECT_FALSE(ReplaceFile(PathOf("a.prg"), ProducerOf(New), calls));
+        const QStringList inPlace = {"flush file", "flush folder", "flush file", "remove copy"};
+        const QStringList beside = {"flush file", "rename", "flush folder"};
+        EXPECT_EQ(steps, linked ? inPlace : beside);
+    }
+}
+
 TEST_F(SaveFailureTest, WritesUnderANameThatNobodyElseCanRead) {
     WriteTestFile(PathOf("a.prg"), Old);
     SetMode(PathOf("a.prg"), 0644);
