@@ -25,8 +25,8 @@ bool IsWindowsProgram(const QString &path) {
 }
 
 /// 0 when the program can be executed. One for Windows need not be marked as executable: Wine only
-/// reads it, and archives made on Windows carry no such mark. What is in a folder that this user may
-/// not look into counts as missing: search paths name such folders.
+/// reads it, and archives made on Windows carry no such mark. What is in a folder that this user
+/// may not look into counts as missing: search paths name such folders.
 int ErrorOfProgram(const QString &path) {
     const QByteArray name = QFile::encodeName(path);
     struct stat status {};
