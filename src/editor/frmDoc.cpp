@@ -8,6 +8,7 @@
 
 #include <QCloseEvent>
 #include <QLabel>
+#include <QMenu>
 #include <QStatusBar>
 
 namespace Quillbox {
@@ -25,6 +26,14 @@ constexpr PanelDesign Panels[] = {{"", 0},      {"Modificado", 12}, {"1 :1", 14}
 
 int PixelsOfTwips(int twips, int dotsPerInch) { return twips * dotsPerInch / 1440; }
 
+/// A child window's own menu would claim Ctrl+W, too, and a shortcut with two owners does nothing.
+/// The File menu keeps it; the frame gets the key that closes child windows everywhere else.
+void LeaveCtrlWToFileMenu(QMenu &frameMenu) {
+    for (QAction *action : frameMenu.actions())
+        if (!action->shortcuts().isEmpty())
+            action->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_F4));
+}
+
 } // namespace
 
 frmDoc::frmDoc(const DocumentWindowParts &parts)
@@ -38,6 +47,7 @@ frmDoc::frmDoc(const DocumentWindowParts &parts)
     txtCode->setObjectName(QStringLiteral("txtCode"));
     BuildStatusBar();
     setWidget(Client_);
+    LeaveCtrlWToFileMenu(*systemMenu());
     setFocusProxy(txtCode);
     Client_->setFocusProxy(txtCode);
     Client_->installEventFilter(this);
