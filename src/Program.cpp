@@ -9,7 +9,8 @@ namespace Quillbox {
 Program::Program(const Outside &outside)
     : Outside_(outside)
     , Boundary_(outside.Dialogs)
-    , Main_(Commands_, Events_, Boundary_)
+    , MainWindow_(std::make_unique<frmMain>(Commands_, Events_, Boundary_))
+    , Main_(*MainWindow_)
     , Store_(outside.AppDir, Settings_, outside.Profile)
     , WordFiles_(outside.AppDir, Words_, outside.Files, outside.Dialogs)
     , CommandState_(Main_, outside.Events)
@@ -30,10 +31,12 @@ Program::Program(const Outside &outside)
     FillEvents();
 }
 
+Program::~Program() { MainWindow_.reset(); }
+
 void Program::Start() {
     Main_.DisableMissingCommands();
-    StartUp{Outside_.AppDir, Main_, CommandState_, {Words_.LanguageDefinition, Languages_},
-            WordFiles_, Store_, Main_.Help()}
+    StartUp{Outside_.AppDir, Main_,  CommandState_, {Words_.LanguageDefinition, Languages_},
+            WordFiles_,      Store_, Main_.Help()}
         .Run();
     Main_.show();
 }
@@ -90,8 +93,7 @@ void Program::FillEvents() {
 }
 
 frmDoc *Program::MakeDocumentWindow(DocumentArea &area) {
-    const EditorViewParts view{Settings_,  Registry_, Scanner_,
-                               QuickHelp_, Main_,     Outside_.Events};
+    const EditorViewParts view{Settings_, Registry_, Scanner_, QuickHelp_, Main_, Outside_.Events};
     return new frmDoc({area, view, Languages_, Find_, Outside_.Dialogs, Boundary_,
                        [this] { Documents_.mnuArchivo_Cerrar_Click(); }});
 }

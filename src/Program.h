@@ -21,9 +21,11 @@
 #include "editor/SymbolScanner.h"
 #include "editor/frmDoc.h"
 #include "platform/qt/EventBoundary.h"
-#include "platform/qt/ScintillaSearch.h"
 #include "platform/qt/LanguageCatalogue.h"
+#include "platform/qt/ScintillaSearch.h"
 #include "project/Project.h"
+
+#include <memory>
 
 namespace Quillbox {
 
@@ -48,6 +50,9 @@ struct Outside {
 class Program {
   public:
     explicit Program(const Outside &outside);
+    ~Program();
+    Program(const Program &) = delete;
+    Program &operator=(const Program &) = delete;
 
     /// Runs the start-up and shows the main window. A run-time error means that the program ends.
     void Start();
@@ -74,7 +79,8 @@ class Program {
     MainWindowEvents Events_;
     LanguageCatalogue Languages_;
     FindState Find_;
-    frmMain Main_;
+    std::unique_ptr<frmMain> MainWindow_; ///< goes first, while its rules are still there
+    frmMain &Main_;
     SettingsStore Store_;
     WordFiles WordFiles_;
     CommandState CommandState_;

@@ -29,6 +29,9 @@ frmMain::frmMain(const CommandTable &commands, const MainWindowEvents &events,
     resize(QSize(1000, 720).boundedTo(screen()->availableSize() * 0.95));
 }
 
+/// The children go after this and must not be heard any more.
+frmMain::~frmMain() { Area_->disconnect(this); }
+
 TabStrip &frmMain::Tabs() { return *tabDocuments; }
 
 NavigationLists &frmMain::Lists() { return *NavigationBar_; }
@@ -51,9 +54,7 @@ void frmMain::CheckCommand(const QString &name, bool checked) {
 
 void frmMain::SetLog(const QString &text) { txtLog->setPlainText(text); }
 
-DocumentWindow &frmMain::CreateDocumentWindow() {
-    return *Events_.MakeDocumentWindow(*Area_);
-}
+DocumentWindow &frmMain::CreateDocumentWindow() { return *Events_.MakeDocumentWindow(*Area_); }
 
 void frmMain::PopUpEditMenu() {
     MenuActions_.value(QStringLiteral("mnuEdicion"))->menu()->popup(QCursor::pos());

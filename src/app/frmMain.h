@@ -31,14 +31,15 @@ struct MainWindowEvents {
     std::function<bool()> MayClose;
 };
 
-/// The main window: menus, tool bar tbEstandar, tabs tabDocuments, the three lists, the documents and
-/// the log pane. It decides nothing; names and order of its commands come from tables.
+/// The main window: menus, tool bar tbEstandar, tabs tabDocuments, the three lists, the documents
+/// and the log pane. It decides nothing; names and order of its commands come from tables.
 class frmMain final : public QMainWindow, public MainWindow {
     Q_OBJECT
   public:
     /// `commands` must outlive the window; it and `events` may still be filled until it is shown.
     frmMain(const CommandTable &commands, const MainWindowEvents &events,
             const EventBoundary &boundary);
+    ~frmMain() override;
 
     TabStrip &Tabs();
     NavigationLists &Lists();

@@ -19,7 +19,8 @@ DocumentArea::~DocumentArea() {
 
 void DocumentArea::Add(QMdiSubWindow *window) {
     Windows_.append(window);
-    connect(window, &QMdiSubWindow::windowStateChanged, &ArrangeTimer_, qOverload<>(&QTimer::start));
+    connect(window, &QMdiSubWindow::windowStateChanged, &ArrangeTimer_,
+            qOverload<>(&QTimer::start));
 }
 
 void DocumentArea::Show(QMdiSubWindow *window) {
@@ -64,7 +65,9 @@ void DocumentArea::TakeOutAllBut(QMdiSubWindow *active) {
     }
 }
 
+/// Nobody has chosen the windows that become active on the way.
 void DocumentArea::ShowAllBehind(QMdiSubWindow *active) {
+    const QSignalBlocker blocker(this);
     for (QMdiSubWindow *window : std::as_const(Windows_))
         Show(window);
     setActiveSubWindow(active);

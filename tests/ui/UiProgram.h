@@ -4,11 +4,13 @@
 #include "Program.h"
 
 #include "fakes/FakeSystem.h"
+#include "platform/EditorControl.h"
 #include "platform/ProfileFiles.h"
 #include "platform/SystemFiles.h"
 #include "platform/qt/QtEventLoop.h"
 
 #include <QFile>
+#include <QMdiArea>
 #include <QTemporaryDir>
 #include <QTest>
 #include <gtest/gtest.h>
