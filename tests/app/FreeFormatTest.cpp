@@ -27,6 +27,7 @@ TEST(FreeFormatItems, EndAtCommasAndLineEnds) {
         {"nothing between commas", "Print,,Input", {"Print", "", "Input"}},
         {"comma at a line's start", ",Print", {"", "Print"}},
         {"comma at a line's end", "Print,\r\nInput", {"Print", "", "Input"}},
+        {"comma at a line's end, LF", "Print,\nInput", {"Print", "", "Input"}},
         {"blank line", "Print\r\n\r\nInput\r\n", {"Print", "", "Input"}},
         {"a line end alone", "\n", {""}},
         {"blank last line", "Print\n\n", {"Print", ""}},

@@ -55,8 +55,7 @@ TEST_F(ClosingDocuments, KeepsTheOthersInTheirOrderFromEveryPosition) {
         {3, {"/j/a.prg", "/j/b.prg"}, {"Ayuda", "a.prg", "b.prg"}, 2},
     };
     for (const Case &one : cases) {
-        while (Registry.DocumentCount > 0)
-            CloseAt(1);
+        Documents.mnuArchivo_CerrarTodo_Click();
         OpenThree();
 
         CloseAt(one.Position);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fakes/FakeProgram.h"
+#include "platform/Paths.h"
 
 #include <gmock/gmock.h>
 
@@ -82,6 +83,26 @@ TEST_F(OpeningDocuments, FindsAnOpenDocumentInAnyLetterCase) {
         EXPECT_EQ(Registry.CurrentIndex, 1) << path;
         EXPECT_EQ(Registry.DocumentCount, 2) << path;
     }
+}
+
+TEST_F(OpeningDocuments, FindsADocumentThatWasOpenedByItsWindowsForm) {
+    Open({"C:\\j\\a.prg", "/j/b.prg"});
+
+    Documents.OpenDocument("c:\\J\\A.PRG");
+
+    EXPECT_EQ(Registry.DocumentCount, 2);
+    EXPECT_EQ(Registry.CurrentIndex, 1);
+}
+
+/// A compiler that runs through Wine names a file in its Windows form.
+TEST_F(OpeningDocuments, FindsADocumentWhoseWindowsFormIsGiven) {
+    const QString windowsForm = "Z:\\j\\nowhere.prg";
+    Open({SystemPath(windowsForm), "/j/b.prg"});
+
+    Documents.OpenDocument(windowsForm);
+
+    EXPECT_EQ(Registry.DocumentCount, 2);
+    EXPECT_EQ(Registry.CurrentIndex, 1);
 }
 
 TEST_F(OpeningDocuments, ComparesWholePaths) {

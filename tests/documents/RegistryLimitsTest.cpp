@@ -10,7 +10,7 @@ namespace {
 class RegistryLimits : public FakeProgram {
   protected:
     void MakeDocuments(int count) {
-        while (Registry.DocumentCount < count)
+        for (int made = Registry.DocumentCount; made < count; ++made)
             Documents.NewDocument();
         Log.Clear();
     }
