@@ -123,5 +123,20 @@ TEST_F(DocumentWindowTest, StandsOnTheLineOfTheFirstError) {
     EXPECT_TRUE(Questions.Messages[0].Text.endsWith(QStringLiteral("at line 3: falta algo")));
 }
 
+TEST_F(DocumentWindowTest, TintsTheErrorLineAtTheTopUntilTheNextEdit) {
+    OpenText("uno\r\ndos\r\ntres\r\n");
+    const auto firstLineColor = [this] {
+        return EditorOf(1)->grab().toImage().pixelColor(EditorOf(1)->width() - 60, 6);
+    };
+    Console.Output = "Error in file " + PathOf(QStringLiteral("a.prg")).toLatin1() +
+                     " at line 2: falta algo\r\n";
+    Trigger(QStringLiteral("mnuPrograma_ComprobarErrores"));
+    const QColor tint = firstLineColor();
+    EXPECT_GT(tint.red(), tint.green() + 20);
+    QTest::keyClicks(EditorOf(1), QStringLiteral("x"));
+    const QColor plain = firstLineColor();
+    EXPECT_LE(plain.red(), plain.green() + 2);
+}
+
 } // namespace
 } // namespace Quillbox

@@ -50,6 +50,7 @@ void ScintillaEditor::SetUpControl() {
     Text_.Send(SCI_SETMODEVENTMASK, SC_MOD_INSERTTEXT | SC_MOD_DELETETEXT);
     Text_.Send(SCI_USEPOPUP, 0);
     Text_.Send(SCI_SETSCROLLWIDTHTRACKING, 1);
+    Text_.Send(SCI_SETENDATLASTLINE, 0); // any line can stand at the top, as an error line does
     Text_.Send(SCI_SETSCROLLWIDTH, 1);
     Text_.Send(SCI_SETLAYOUTCACHE, SC_CACHE_PAGE);
     Text_.Send(SCI_SETPOSITIONCACHE, KnownWidths);

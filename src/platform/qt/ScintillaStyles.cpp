@@ -152,7 +152,9 @@ void ScintillaStyles::TextReplaced() {
 
 void ScintillaStyles::SetUpMargins() const {
     Text_.Send(Sci::SCI_SETMARGINTYPEN, Margin::Bookmarks, Sci::SC_MARGIN_SYMBOL);
-    Text_.Send(Sci::SCI_SETMARGINMASKN, Margin::Bookmarks, 1 << LineMark::Bookmark);
+    // A tint of a whole line shows only where some margin takes its mark, too.
+    Text_.Send(Sci::SCI_SETMARGINMASKN, Margin::Bookmarks,
+               (1 << LineMark::Bookmark) | (1 << LineMark::Highlight));
     Text_.Send(Sci::SCI_SETMARGINWIDTHN, Margin::Bookmarks, BookmarkMarginWidth);
     Text_.Send(Sci::SCI_SETMARGINTYPEN, Margin::LineNumbers, Sci::SC_MARGIN_NUMBER);
     Text_.Send(Sci::SCI_SETMARGINMASKN, Margin::LineNumbers, 0);
