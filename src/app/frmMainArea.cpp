@@ -40,9 +40,14 @@ void DocumentArea::Remove(QMdiSubWindow *window) {
         removeSubWindow(window);
 }
 
+/// A window that was maximised when it left gives itself the main window's title on its way back.
+/// Documents are known, and saved, by the titles of their windows.
 void DocumentArea::PutInside(QMdiSubWindow *window) {
-    if (window->mdiArea() != this)
-        addSubWindow(window);
+    if (window->mdiArea() == this)
+        return;
+    const QString title = window->windowTitle();
+    addSubWindow(window);
+    window->setWindowTitle(title);
 }
 
 /// Restored from its maximised state, a window lies among all others.
