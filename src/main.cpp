@@ -17,8 +17,7 @@
 
 #include <optional>
 
-using namespace Quillbox;
-
+namespace Quillbox {
 namespace {
 
 /// A run-time error during start-up ends the program.
@@ -32,10 +31,7 @@ void StartOrQuit(std::optional<Program> &program, const Outside &outside) {
     }
 }
 
-} // namespace
-
-int main(int argc, char *argv[]) {
-    QApplication application(argc, argv);
+int Run() {
     QApplication::setApplicationName(QStringLiteral("Quillbox"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/quillbox.svg")));
 
@@ -53,4 +49,12 @@ int main(int argc, char *argv[]) {
     frmLogo splash([&] { StartOrQuit(program, outside); }, events);
     splash.show();
     return QApplication::exec();
+}
+
+} // namespace
+} // namespace Quillbox
+
+int main(int argc, char *argv[]) {
+    const QApplication application(argc, argv);
+    return Quillbox::Run();
 }

@@ -37,7 +37,8 @@ void CommandState::UpdateCommandState(bool enabled) {
         MainWindow_.EnableCommand(name, enabled);
     for (const QString &tooltip : DocumentToolButtons)
         MainWindow_.EnableToolButtons(tooltip, enabled);
-    EventLoop_.ProcessPendingEvents();
+    // Only windows: a document that is being made is counted already but has no window yet.
+    EventLoop_.ProcessWindowEvents();
 }
 
 void CommandState::EnableWindowMenu() { MainWindow_.EnableCommand(WindowMenu, true); }

@@ -8,8 +8,11 @@ class EventLoop {
   public:
     virtual ~EventLoop() = default;
 
-    /// Handles the events that are waiting, then returns.
+    /// Handles the events that are waiting, then returns. What the person did meanwhile is among
+    /// them, so commands can be entered from here.
     virtual void ProcessPendingEvents() = 0;
+    /// Handles the waiting events except what the person did, so that changes show at once.
+    virtual void ProcessWindowEvents() = 0;
     /// Gives up the rest of the time slice without handling events.
     virtual void Yield() = 0;
     /// The state of a Ctrl key at this moment.

@@ -37,7 +37,7 @@ TEST_F(CommandStateOfTheMainWindow, EnablesTheDocumentCommandsInOrderAndShowsTha
                     "main.EnableToolButtons Buscar true", "main.EnableToolButtons Deshacer true",
                     "main.EnableToolButtons Rehacer true", "main.EnableToolButtons Cortar true",
                     "main.EnableToolButtons Copiar true", "main.EnableToolButtons Pegar true",
-                    "main.EnableToolButtons Ejecutar true", "events.ProcessPendingEvents"));
+                    "main.EnableToolButtons Ejecutar true", "events.ProcessWindowEvents"));
 }
 
 TEST_F(CommandStateOfTheMainWindow, DisablesExactlyWhatItEnables) {

@@ -60,7 +60,7 @@ TEST_F(WalkingWithSilentTabs, EnablesTheDocumentCommandsBeforeADocumentIsActivat
 
     EXPECT_TRUE(Main.Enabled["mnuEdicion"]);
     EXPECT_THAT(Log.CallsOf({"events.", "window.Activate"}),
-                ElementsAre("events.ProcessPendingEvents", "window.Activate /j/b.prg"));
+                ElementsAre("events.ProcessWindowEvents", "window.Activate /j/b.prg"));
 }
 
 TEST_F(WalkingWithSilentTabs, StepsBackFromTheFirstDocumentToTheHelpPage) {
@@ -88,7 +88,7 @@ TEST_F(WalkingWithSilentTabs, LeavesOnlyTheWindowMenuOnTheHelpPage) {
     EXPECT_TRUE(Main.Enabled["mnuVentana"]);
     EXPECT_THAT(Log.CallsOf({"help.", "events.", "main.EnableCommand mnuVentana"}),
                 ElementsAre("help.SetFocus", "main.EnableCommand mnuVentana false",
-                            "events.ProcessPendingEvents", "main.EnableCommand mnuVentana true"));
+                            "events.ProcessWindowEvents", "main.EnableCommand mnuVentana true"));
 }
 
 TEST_F(WalkingWithSilentTabs, StaysOnTheHelpPageWhenItStepsBackFromThere) {

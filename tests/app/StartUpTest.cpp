@@ -46,7 +46,7 @@ TEST_F(StartingUp, RunsItsStepsInOrder) {
     }
     EXPECT_THAT(steps,
                 ElementsAre("main.SetCaption", "main.EnableCommand", "main.EnableToolButtons",
-                            "events.ProcessPendingEvents", "main.EnableCommand", "files.CanRead",
+                            "events.ProcessWindowEvents", "main.EnableCommand", "files.CanRead",
                             "files.Read", "files.CanRead", "files.Read", "profile.ReadString",
                             "languages.RegisterLanguage", "help.Show", "help.Navigate"));
 }

@@ -29,7 +29,7 @@ TEST_F(NewDocuments, TakeTheirStepsInOrder) {
 
     EXPECT_THAT(Log.CallsOf({"main.EnableCommand mnuEdicion", "events.", "main.Create", "window.",
                              "editor.", "tabs.", "dialogs."}),
-                ElementsAre("main.EnableCommand mnuEdicion true", "events.ProcessPendingEvents",
+                ElementsAre("main.EnableCommand mnuEdicion true", "events.ProcessWindowEvents",
                             "main.CreateDocumentWindow", "window.Show < sin título >",
                             "tabs.AddTab 2 < sin título >", "tabs.SelectTab 2"));
 }

@@ -36,7 +36,7 @@ TEST_F(OpeningDocuments, TakesItsStepsInOrder) {
 
     EXPECT_THAT(Log.CallsOf({"main.EnableCommand mnuEdicion", "events.", "main.Create", "window.",
                              "editor.", "tabs.", "dialogs."}),
-                ElementsAre("main.EnableCommand mnuEdicion true", "events.ProcessPendingEvents",
+                ElementsAre("main.EnableCommand mnuEdicion true", "events.ProcessWindowEvents",
                             "main.CreateDocumentWindow", "editor.OpenFile /j/a.prg",
                             "window.SetCaption /j/a.prg", "window.Show /j/a.prg",
                             "tabs.AddTab 2 a.prg", "tabs.SelectTab 2"));

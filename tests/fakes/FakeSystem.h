@@ -189,6 +189,10 @@ class FakeEventLoop : public EventLoop {
         Log_.Add("events.ProcessPendingEvents");
         WhilePumping();
     }
+    void ProcessWindowEvents() override {
+        Log_.Add("events.ProcessWindowEvents");
+        WhilePumping();
+    }
     void Yield() override { WhileYielding(); }
     bool IsCtrlDown() override { return CtrlDown; }
 

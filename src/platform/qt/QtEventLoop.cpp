@@ -9,6 +9,10 @@ namespace Quillbox {
 
 void QtEventLoop::ProcessPendingEvents() { QCoreApplication::processEvents(); }
 
+void QtEventLoop::ProcessWindowEvents() {
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
 void QtEventLoop::Yield() { QThread::yieldCurrentThread(); }
 
 bool QtEventLoop::IsCtrlDown() {

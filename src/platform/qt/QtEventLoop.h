@@ -8,6 +8,7 @@ namespace Quillbox {
 class QtEventLoop final : public EventLoop {
   public:
     void ProcessPendingEvents() override;
+    void ProcessWindowEvents() override;
     void Yield() override;
     bool IsCtrlDown() override;
 };
