@@ -29,7 +29,8 @@ ColouringRules::ColouringRules(const LanguageDefinition &language)
     : Words_(language.Case) {
     AddWords(Words_, language.Keywords, TextStyle::Keyword);
     AddWords(Words_, language.UserWords, TextStyle::UserWord);
-    ClassifyBytes(language.Operators);
+    ClassifyBytes();
+    AddOperators(language.Operators);
     AddMarker(language.SingleLineComment, MarkerKind::Comment);
     const std::string commentEnd = language.MultiLineCommentEnd.toStdString();
     if (!commentEnd.empty() && !HasLineEnd(commentEnd)) {
@@ -42,32 +43,22 @@ ColouringRules::ColouringRules(const LanguageDefinition &language)
     });
 }
 
-void ColouringRules::ClassifyBytes(const QString &operators) {
-    for (const char *blank = " \t\v\f"; *blank != '\0'; ++blank)
-        SetClass(*blank, ByteClass::Blank);
+void ColouringRules::ClassifyBytes() {
+    for (std::size_t code = 0; code < Classes_.size(); ++code) {
+        const char byte = static_cast<char>(code);
+        if (IsWordByte(byte))
+            Classes_[code] = IsAsciiDigit(byte) ? ByteClass::Digit : ByteClass::Word;
+        else if (byte == '.' || byte == '$' || byte == '%')
+            Classes_[code] = ByteClass::NumberPrefix;
+    }
+    ClassesWithoutMarkers_ = Classes_;
+}
+
+void ColouringRules::AddOperators(const QString &operators) {
     const QStringList items = operators.split(u'\n', Qt::SkipEmptyParts);
     for (const QString &item : items)
         if (item.size() == 1 && item[0].unicode() > u' ' && item[0].unicode() < 0x7F)
-            SetClass(item[0].toLatin1(), ByteClass::Operator);
-    for (const char *prefix = ".$%"; *prefix != '\0'; ++prefix) {
-        const bool isOperator = ClassWithoutMarker(*prefix) == ByteClass::Operator;
-        SetClass(*prefix, isOperator ? ByteClass::NumberPrefixOrOperator : ByteClass::NumberPrefix);
-    }
-    for (const char *end = ")]"; *end != '\0'; ++end) {
-        const bool isOperator = ClassWithoutMarker(*end) == ByteClass::Operator;
-        SetClass(*end, isOperator ? ByteClass::OperandEndOperator : ByteClass::OperandEnd);
-    }
-    for (int code = 0; code < 256; ++code)
-        if (IsWordByte(static_cast<char>(code)))
-            SetClass(static_cast<char>(code),
-                     IsAsciiDigit(static_cast<char>(code)) ? ByteClass::Digit : ByteClass::Word);
-    SetClass('\r', ByteClass::LineEnd);
-    SetClass('\n', ByteClass::LineEnd);
-    Classes_ = ClassesWithoutMarkers_;
-}
-
-void ColouringRules::SetClass(char byte, ByteClass byteClass) {
-    ClassesWithoutMarkers_[static_cast<unsigned char>(byte)] = byteClass;
+            SingleStyles_[item[0].unicode()] = TextStyle::Operator;
 }
 
 void ColouringRules::AddMarker(const QString &text, MarkerKind kind) {

@@ -59,17 +59,11 @@ class ColouringRules {
     friend class ColouringScanner;
 
     enum class ByteClass : unsigned char {
-        Other,
-        Blank,
-        LineEnd,
+        Single, ///< shows as its style of its own
         Word,
         Digit,
         NumberPrefix, ///< ".", "$" or "%"
-        NumberPrefixOrOperator,
-        Operator,
-        OperandEnd, ///< ")" or "]"
-        OperandEndOperator,
-        Marker, ///< a marker may start here
+        Marker,       ///< a marker may start here
     };
     enum class MarkerKind : unsigned char { Comment, MultiLineComment, String };
     struct Marker {
@@ -77,16 +71,14 @@ class ColouringRules {
         MarkerKind Kind;
     };
 
-    void ClassifyBytes(const QString &operators);
-    void SetClass(char byte, ByteClass byteClass);
+    void ClassifyBytes();
+    void AddOperators(const QString &operators);
     void AddMarker(const QString &text, MarkerKind kind);
-    ByteClass ClassWithoutMarker(char byte) const {
-        return ClassesWithoutMarkers_[static_cast<unsigned char>(byte)];
-    }
 
     std::array<ByteClass, 256> Classes_{};
     std::array<ByteClass, 256> ClassesWithoutMarkers_{};
-    std::vector<Marker> Markers_; ///< longest first
+    std::array<TextStyle, 256> SingleStyles_{}; ///< Operator or Text
+    std::vector<Marker> Markers_;               ///< longest first
     std::string MultiLineCommentEnd_;
     WordSet Words_;
 };

@@ -25,43 +25,45 @@ ColouringScanner::ColouringScanner(const ColouringRules &rules, std::string_view
 ColouringState ColouringScanner::Run(ColouringState state) {
     if (state == ColouringState::MultiLineComment)
         ScanMultiLineComment(0);
-    while (Position_ < Text_.size())
-        ScanToken(Rules_.Classes_[static_cast<unsigned char>(Text_[Position_])]);
+    for (;;) {
+        Position_ = ScanSingles(Position_);
+        if (Position_ == Text_.size())
+            break;
+        if (ClassAt(Position_) == ByteClass::Word)
+            ScanWord();
+        else
+            ScanOther();
+    }
     return CommentOpen_ ? ColouringState::MultiLineComment : ColouringState::Code;
 }
 
-void ColouringScanner::ScanToken(ByteClass byteClass) {
-    switch (byteClass) {
-    case ByteClass::Blank:
-        return FillOne(TextStyle::Text);
-    case ByteClass::Word:
-        return ScanWord();
+std::size_t ColouringScanner::ScanSingles(std::size_t position) const {
+    for (; position < Text_.size() && ClassAt(position) == ByteClass::Single; ++position)
+        Styles_[position] = SingleStyleAt(position);
+    return position;
+}
+
+void ColouringScanner::ScanWord() {
+    const WordSet::ReadWord word = Rules_.Words_.Read(Text_.substr(Position_));
+    Fill(Position_ + word.Length, static_cast<TextStyle>(word.Tag));
+}
+
+void ColouringScanner::ScanOther() {
+    const auto code = static_cast<unsigned char>(Text_[Position_]);
+    switch (Rules_.Classes_[code]) {
     case ByteClass::Digit:
-        OperandEnded_ = true;
-        return Fill(DecimalEnd(Position_), TextStyle::Number);
+        return ScanNumber();
     case ByteClass::NumberPrefix:
-        return ScanPrefixed(TextStyle::Text);
-    case ByteClass::NumberPrefixOrOperator:
-        return ScanPrefixed(TextStyle::Operator);
+        return ScanPrefixed();
     case ByteClass::Marker:
-        return ScanMarker();
-    case ByteClass::Operator:
-        OperandEnded_ = false;
-        return FillOne(TextStyle::Operator);
-    case ByteClass::OperandEndOperator:
-        OperandEnded_ = true;
-        return FillOne(TextStyle::Operator);
-    case ByteClass::OperandEnd:
-        OperandEnded_ = true;
-        return FillOne(TextStyle::Text);
-    case ByteClass::LineEnd:
-    case ByteClass::Other:
-        OperandEnded_ = false;
-        return FillOne(TextStyle::Text);
+        return ScanMarker(Rules_.ClassesWithoutMarkers_[code]);
+    case ByteClass::Single:
+    case ByteClass::Word:
+        break;
     }
 }
 
-void ColouringScanner::ScanMarker() {
+void ColouringScanner::ScanMarker(ByteClass otherwise) {
     const std::string_view rest = Text_.substr(Position_);
     for (const ColouringRules::Marker &marker : Rules_.Markers_) {
         if (!rest.starts_with(marker.Text))
@@ -75,33 +77,55 @@ void ColouringScanner::ScanMarker() {
             return ScanString(marker.Text);
         }
     }
-    ScanToken(Rules_.ClassWithoutMarker(Text_[Position_]));
-}
-
-void ColouringScanner::ScanWord() {
-    const WordSet::ReadWord word = Rules_.Words_.Read(Text_.substr(Position_));
-    const auto style = static_cast<TextStyle>(word.Tag);
-    OperandEnded_ = style == TextStyle::Text;
-    Fill(Position_ + word.Length, style);
-}
-
-void ColouringScanner::ScanPrefixed(TextStyle otherwise) {
-    const bool behindWord = Position_ > 0 && IsWordByte(Text_[Position_ - 1]);
-    const std::size_t end = OperandEnded_ || behindWord ? Position_ : PrefixedNumberEnd();
-    if (end > Position_) {
-        OperandEnded_ = true;
-        return Fill(end, TextStyle::Number);
+    switch (otherwise) {
+    case ByteClass::Word:
+        return ScanWord();
+    case ByteClass::Digit:
+        return ScanNumber();
+    case ByteClass::NumberPrefix:
+        return ScanPrefixed();
+    case ByteClass::Single:
+    case ByteClass::Marker:
+        return Fill(Position_ + 1, SingleStyleAt(Position_));
     }
-    // A "$" or "%" behind a name is part of it; as an operator of its own it ends the operand.
-    if (!behindWord)
-        OperandEnded_ = false;
-    FillOne(otherwise);
+}
+
+void ColouringScanner::ScanNumber() { Fill(DecimalEnd(Position_), TextStyle::Number); }
+
+void ColouringScanner::ScanPrefixed() {
+    const std::size_t end = IsBehindOperand() ? Position_ : PrefixedNumberEnd();
+    if (end > Position_)
+        Fill(end, TextStyle::Number);
+    else
+        Fill(Position_ + 1, SingleStyleAt(Position_));
+}
+
+/// True where no operand may stand: right behind a word, or behind an ordinary word, a number, a
+/// string or a closing bracket with blanks between.
+bool ColouringScanner::IsBehindOperand() const {
+    std::size_t position = Position_;
+    if (position > 0 && IsWordByte(Text_[position - 1]))
+        return true;
+    while (position > 0 && (Text_[position - 1] == ' ' || Text_[position - 1] == '\t'))
+        --position;
+    if (position == 0)
+        return false;
+    const char byte = Text_[position - 1];
+    switch (Styles_[position - 1]) {
+    case TextStyle::Number:
+    case TextStyle::String:
+        return true;
+    case TextStyle::Text:
+    case TextStyle::Operator:
+        return byte == ')' || byte == ']' || IsWordByte(byte);
+    default:
+        return false;
+    }
 }
 
 void ColouringScanner::ScanComment() { Fill(LineEnd(Position_), TextStyle::Comment); }
 
 void ColouringScanner::ScanString(const std::string &delimiter) {
-    OperandEnded_ = true;
     std::size_t end = Position_ + delimiter.size();
     for (; end < Text_.size() && !IsLineEnd(Text_[end]); ++end)
         if (Text_[end] == delimiter.front() && Text_.substr(end).starts_with(delimiter))
@@ -113,7 +137,6 @@ void ColouringScanner::ScanMultiLineComment(std::size_t searchStart) {
     const std::string &marker = Rules_.MultiLineCommentEnd_;
     const std::size_t found = Text_.find(marker, searchStart);
     CommentOpen_ = found == std::string_view::npos;
-    OperandEnded_ = false;
     Fill(CommentOpen_ ? Text_.size() : found + marker.size(), TextStyle::MultiLineComment);
 }
 
@@ -163,8 +186,14 @@ char ColouringScanner::ByteAt(std::size_t position) const {
     return position < Text_.size() ? Text_[position] : '\0';
 }
 
+/// Most tokens are short; a few bytes too many are written over by the tokens behind.
 void ColouringScanner::Fill(std::size_t end, TextStyle style) {
-    std::memset(Styles_ + Position_, static_cast<int>(style), end - Position_);
+    constexpr std::size_t block = 16;
+    TextStyle *const start = Styles_ + Position_;
+    if (end - Position_ <= block && Text_.size() - Position_ >= block)
+        std::memset(start, static_cast<int>(style), block);
+    else
+        std::memset(start, static_cast<int>(style), end - Position_);
     Position_ = end;
 }
 

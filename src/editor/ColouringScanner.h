@@ -16,27 +16,34 @@ class ColouringScanner {
   private:
     using ByteClass = ColouringRules::ByteClass;
 
-    void ScanToken(ByteClass byteClass);
-    void ScanMarker();
+    std::size_t ScanSingles(std::size_t position) const;
     void ScanWord();
-    void ScanPrefixed(TextStyle otherwise);
+    void ScanOther();
+    void ScanMarker(ByteClass otherwise);
+    void ScanNumber();
+    void ScanPrefixed();
     void ScanComment();
     void ScanString(const std::string &delimiter);
     void ScanMultiLineComment(std::size_t searchStart);
 
+    bool IsBehindOperand() const;
+    ByteClass ClassAt(std::size_t position) const {
+        return Rules_.Classes_[static_cast<unsigned char>(Text_[position])];
+    }
+    TextStyle SingleStyleAt(std::size_t position) const {
+        return Rules_.SingleStyles_[static_cast<unsigned char>(Text_[position])];
+    }
     std::size_t DecimalEnd(std::size_t position) const;
     std::size_t FractionEnd(std::size_t position) const;
     std::size_t PrefixedNumberEnd() const;
     std::size_t LineEnd(std::size_t position) const;
     char ByteAt(std::size_t position) const;
     void Fill(std::size_t end, TextStyle style);
-    void FillOne(TextStyle style) { Styles_[Position_++] = style; }
 
     const ColouringRules &Rules_;
     std::string_view Text_;
     TextStyle *Styles_;
     std::size_t Position_ = 0;
-    bool OperandEnded_ = false; ///< on this line, with nothing but blanks behind it
     bool CommentOpen_ = false;
 };
 

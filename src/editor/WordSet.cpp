@@ -3,45 +3,57 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
+#include <cstring>
 
 namespace Quillbox {
 
 namespace {
 
-constexpr std::uint32_t HashStart = 2166136261U;
-constexpr std::uint32_t HashFactor = 16777619U;
+constexpr std::size_t FewestSlots = 16;
 
-constexpr char UpperCase(char byte) {
-    return byte >= 'a' && byte <= 'z' ? static_cast<char>(byte - ('a' - 'A')) : byte;
+/// Clears the bit in which the cases of ASCII letters differ. Among the ASCII bytes that words are
+/// made of, no two others become equal by it.
+constexpr unsigned CaseMask = 0xDF;
+
+std::uint64_t EightBytes(const char *bytes) {
+    std::uint64_t value = 0;
+    std::memcpy(&value, bytes, sizeof value);
+    return value;
 }
 
-/// Every byte in the form in which it is compared; 0 for a byte that ends a word.
-constexpr std::array<char, 256> FoldTable(CaseSensitivity sensitivity) {
-    std::array<char, 256> table{};
-    for (std::size_t code = 0; code < table.size(); ++code) {
-        const char byte = static_cast<char>(code);
-        if (IsWordByte(byte))
-            table[code] = sensitivity == CaseSensitivity::On ? byte : UpperCase(byte);
-    }
+constexpr bool IsLittleEndian = std::endian::native == std::endian::little;
+constexpr std::uint64_t EveryByte = 0x0101010101010101U;
+
+/// The first `count` (0 to 7) of the 8 bytes of `value` as they lie in memory, the others 0.
+constexpr std::uint64_t FirstBytes(std::uint64_t value, std::size_t count) {
+    const std::uint64_t lowBytes = (std::uint64_t{1} << (8 * count)) - 1;
+    return value & (IsLittleEndian ? lowBytes : ~(~std::uint64_t{0} >> (8 * count)));
+}
+
+constexpr std::array<bool, 256> WordByteTable = [] {
+    std::array<bool, 256> table{};
+    for (std::size_t code = 0; code < table.size(); ++code)
+        table[code] = IsWordByte(static_cast<char>(code));
     return table;
-}
+}();
 
-constexpr std::array<char, 256> ExactFolding = FoldTable(CaseSensitivity::On);
-constexpr std::array<char, 256> UpperFolding = FoldTable(CaseSensitivity::Off);
+struct WordBeginning {
+    std::size_t Length;
+    bool IsAscii;
+};
 
-constexpr const std::array<char, 256> &FoldingFor(CaseSensitivity sensitivity) {
-    return sensitivity == CaseSensitivity::On ? ExactFolding : UpperFolding;
-}
-
-constexpr std::uint32_t AddToHash(std::uint32_t hash, char folded) {
-    return (hash ^ static_cast<unsigned char>(folded)) * HashFactor;
-}
-
-std::uint32_t HashOf(std::string_view folded) {
-    std::uint32_t hash = HashStart;
-    for (const char letter : folded)
-        hash = AddToHash(hash, letter);
-    return hash;
+/// The word bytes that `text` begins with.
+WordBeginning ReadWordBytes(std::string_view text) {
+    std::size_t length = 0;
+    unsigned char seen = 0;
+    for (; length < text.size(); ++length) {
+        const auto code = static_cast<unsigned char>(text[length]);
+        if (!WordByteTable[code])
+            break;
+        seen |= code;
+    }
+    return {length, seen < 0x80};
 }
 
 bool IsAscii(std::string_view text) {
@@ -49,54 +61,52 @@ bool IsAscii(std::string_view text) {
                        [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
 }
 
+template <class Key>
+std::uint64_t HashOf(const Key &key) {
+    const std::uint64_t mixed = (key.Head ^ std::rotl(key.Tail, 29)) + key.Length;
+    const std::uint64_t product = mixed * 0x9E3779B97F4A7C15U;
+    return product ^ (product >> 32);
+}
+
 } // namespace
 
 std::string FoldedWord(std::string_view utf8, CaseSensitivity sensitivity) {
-    std::string folded(utf8);
     if (sensitivity == CaseSensitivity::On)
-        return folded;
-    if (!IsAscii(utf8))
-        return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()))
-            .toUpper()
-            .toStdString();
-    std::transform(folded.begin(), folded.end(), folded.begin(), UpperCase);
-    return folded;
+        return std::string(utf8);
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()))
+        .toUpper()
+        .toStdString();
 }
 
 WordSet::WordSet(CaseSensitivity sensitivity)
     : Case_(sensitivity)
-    , Slots_(16) {}
+    , LetterMask_(sensitivity == CaseSensitivity::On ? ~std::uint64_t{0} : EveryByte * CaseMask)
+    , Slots_(FewestSlots) {}
 
 void WordSet::Add(std::string_view word, Mark mark) {
     const std::string folded = FoldedWord(word, Case_);
-    if (folded.empty() || FindFolded(folded) != NoMark)
+    if (!std::all_of(folded.begin(), folded.end(), IsWordByte) || folded.empty() ||
+        Find(folded) != NoMark)
         return;
-    if ((Count_ + 1) * 2 > Slots_.size())
-        Grow();
-    const std::uint32_t hash = HashOf(folded);
-    Insert({hash, static_cast<std::uint32_t>(Letters_.size()),
-            static_cast<std::uint32_t>(folded.size()), mark});
+    Entries_.push_back({KeyOf(folded, folded.size()), Letters_.size(), mark});
     Letters_ += folded;
-    ++Count_;
+    if (Entries_.size() * 2 > Slots_.size()) {
+        Slots_.assign(Slots_.size() * 2, 0);
+        for (std::uint32_t number = 1; number < Entries_.size(); ++number)
+            Insert(number);
+    }
+    Insert(static_cast<std::uint32_t>(Entries_.size()));
 }
 
 WordSet::ReadWord WordSet::Read(std::string_view text) const {
-    const std::array<char, 256> &folding = FoldingFor(Case_);
-    std::uint32_t hash = HashStart;
-    unsigned char highBits = 0;
-    std::size_t length = 0;
-    for (; length < text.size(); ++length) {
-        const auto code = static_cast<unsigned char>(text[length]);
-        const char folded = folding[code];
-        if (folded == 0)
-            break;
-        hash = AddToHash(hash, folded);
-        highBits |= code;
-    }
-    const std::string_view word = text.substr(0, length);
-    if (highBits >= 0x80 && Case_ == CaseSensitivity::Off)
-        return {length, FindFolded(FoldedWord(word, Case_))};
-    return {length, FindHashed(word, hash)};
+    const WordBeginning beginning = ReadWordBytes(text);
+    const std::string_view word = text.substr(0, beginning.Length);
+    if (word.empty())
+        return {0, NoMark};
+    if (beginning.IsAscii || Case_ == CaseSensitivity::On)
+        return {word.size(), FindKey(KeyOf(word, text.size()), word, beginning.IsAscii)};
+    const std::string folded = FoldedWord(word, Case_);
+    return {word.size(), FindKey(KeyOf(folded, folded.size()), folded, IsAscii(folded))};
 }
 
 WordSet::Mark WordSet::Find(std::string_view word) const {
@@ -104,40 +114,45 @@ WordSet::Mark WordSet::Find(std::string_view word) const {
     return found.Length == word.size() ? found.Tag : NoMark;
 }
 
-WordSet::Mark WordSet::FindFolded(std::string_view folded) const {
-    return FindHashed(folded, HashOf(folded));
+/// `readable` says how many bytes may be read where `word` begins.
+WordSet::Key WordSet::KeyOf(std::string_view word, std::size_t readable) const {
+    const std::size_t length = word.size();
+    if (length >= 8)
+        return {EightBytes(word.data()) & LetterMask_,
+                EightBytes(word.data() + length - 8) & LetterMask_, length};
+    if (readable >= 8)
+        return {FirstBytes(EightBytes(word.data()), length) & LetterMask_, 0, length};
+    std::uint64_t head = 0;
+    std::memcpy(&head, word.data(), length);
+    return {head & LetterMask_, 0, length};
 }
 
-WordSet::Mark WordSet::FindHashed(std::string_view word, std::uint32_t hash) const {
-    const std::array<char, 256> &folding = FoldingFor(Case_);
-    const auto matches = [&](const Slot &slot) {
-        return slot.Hash == hash && slot.Length == word.size() &&
-               std::equal(word.begin(), word.end(), Letters_.begin() + slot.Start,
-                          [&](char byte, char letter) {
-                              return folding[static_cast<unsigned char>(byte)] == letter;
-                          });
-    };
+WordSet::Mark WordSet::FindKey(const Key &key, std::string_view word, bool isAscii) const {
     const std::size_t last = Slots_.size() - 1;
-    for (std::size_t index = hash & last; Slots_[index].Tag != NoMark; index = (index + 1) & last)
-        if (matches(Slots_[index]))
-            return Slots_[index].Tag;
+    for (std::size_t index = HashOf(key) & last; Slots_[index] != 0; index = (index + 1) & last) {
+        const Entry &entry = Entries_[Slots_[index] - 1];
+        if (entry.Word == key && HasLetters(entry, word, isAscii))
+            return entry.Tag;
+    }
     return NoMark;
 }
 
-void WordSet::Insert(const Slot &slot) {
-    const std::size_t last = Slots_.size() - 1;
-    std::size_t index = slot.Hash & last;
-    while (Slots_[index].Tag != NoMark)
-        index = (index + 1) & last;
-    Slots_[index] = slot;
+/// For words whose keys are equal: whether they are the same. Up to 16 bytes the keys hold all of
+/// an ASCII word; among other bytes the mask may have made different ones equal.
+bool WordSet::HasLetters(const Entry &entry, std::string_view word, bool isAscii) const {
+    if (isAscii && word.size() <= 16)
+        return true;
+    const auto mask = static_cast<std::uint8_t>(isAscii ? LetterMask_ : ~std::uint64_t{0});
+    return std::equal(word.begin(), word.end(), Letters_.data() + entry.Start,
+                      [mask](char one, char other) { return ((one ^ other) & mask) == 0; });
 }
 
-void WordSet::Grow() {
-    std::vector<Slot> old(Slots_.size() * 2);
-    old.swap(Slots_);
-    for (const Slot &slot : old)
-        if (slot.Tag != NoMark)
-            Insert(slot);
+void WordSet::Insert(std::uint32_t number) {
+    const std::size_t last = Slots_.size() - 1;
+    std::size_t index = HashOf(Entries_[number - 1].Word) & last;
+    while (Slots_[index] != 0)
+        index = (index + 1) & last;
+    Slots_[index] = number;
 }
 
 } // namespace Quillbox

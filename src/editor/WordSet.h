@@ -42,22 +42,29 @@ class WordSet {
     Mark Find(std::string_view word) const;
 
   private:
-    struct Slot {
-        std::uint32_t Hash;
-        std::uint32_t Start; ///< in Letters_
-        std::uint32_t Length;
-        Mark Tag = NoMark;
+    /// A word without the case that does not count. Up to 16 bytes it says all about the word.
+    struct Key {
+        std::uint64_t Head; ///< the first 8 bytes
+        std::uint64_t Tail; ///< the last 8 bytes of a longer word
+        std::size_t Length;
+        bool operator==(const Key &) const = default;
+    };
+    struct Entry {
+        Key Word;
+        std::size_t Start; ///< in Letters_
+        Mark Tag;
     };
 
-    Mark FindFolded(std::string_view folded) const;
-    Mark FindHashed(std::string_view word, std::uint32_t hash) const;
-    void Insert(const Slot &slot);
-    void Grow();
+    Key KeyOf(std::string_view word, std::size_t readable) const;
+    Mark FindKey(const Key &key, std::string_view word, bool isAscii) const;
+    bool HasLetters(const Entry &entry, std::string_view word, bool isAscii) const;
+    void Insert(std::uint32_t number);
 
     CaseSensitivity Case_;
-    std::vector<Slot> Slots_; ///< a power of two, at most half full, probed linearly
-    std::size_t Count_ = 0;
-    std::string Letters_; ///< folded
+    std::uint64_t LetterMask_;         ///< takes the case out of 8 ASCII letters
+    std::vector<Entry> Entries_;       ///< numbered from 1
+    std::vector<std::uint32_t> Slots_; ///< entry numbers, 0 when empty; at most half full
+    std::string Letters_;              ///< folded
 };
 
 } // namespace Quillbox

@@ -14,9 +14,21 @@ namespace Quillbox {
 
 namespace {
 
-/// Pieces of text whose widths are kept. Measuring is what makes a very long line slow; with most
-/// of its pieces known, a letter typed into it costs a look-up for each of the others.
-constexpr int KnownWidths = 16 * 1024;
+/// A line longer than this many bytes is slow to measure.
+constexpr BytePosition LongLine = 32 * 1024;
+
+/// Pieces of text whose widths are kept once a long line shows. Measuring is what makes such a line
+/// slow; with its pieces known, a letter typed into it costs a look-up for each of the others.
+constexpr int KnownWidths = 64 * 1024;
+
+bool ShowsLongLine(const ScintillaText &text) {
+    const auto top = static_cast<int>(text.Send(QsciScintillaBase::SCI_GETFIRSTVISIBLELINE));
+    const auto shown = static_cast<int>(text.Send(QsciScintillaBase::SCI_LINESONSCREEN));
+    for (int line = top; line <= top + shown && line < text.LineCount(); ++line)
+        if (text.LineEnd({line}) - text.LineStart({line}) > LongLine)
+            return true;
+    return false;
+}
 
 } // namespace
 
@@ -53,7 +65,6 @@ void ScintillaEditor::SetUpControl() {
     Text_.Send(SCI_SETENDATLASTLINE, 0); // any line can stand at the top, as an error line does
     Text_.Send(SCI_SETSCROLLWIDTH, 1);
     Text_.Send(SCI_SETLAYOUTCACHE, SC_CACHE_PAGE);
-    Text_.Send(SCI_SETPOSITIONCACHE, KnownWidths);
     ClearLetterCommands(Text_);
 }
 
@@ -64,6 +75,13 @@ void ScintillaEditor::SetUpDocument() {
     const bool carriageReturn = std::strcmp(LineEnd, "\r\n") == 0;
     Text_.Send(SCI_SETEOLMODE, carriageReturn ? SC_EOL_CRLF : SC_EOL_LF);
     Styles_.TextReplaced();
+}
+
+void ScintillaEditor::PrepareLongLines() {
+    if (!ReadyForLongLines_ && ShowsLongLine(Text_)) {
+        ReadyForLongLines_ = true;
+        Text_.Send(SCI_SETPOSITIONCACHE, KnownWidths);
+    }
 }
 
 void ScintillaEditor::SetLanguage(const QString &name) {

@@ -107,6 +107,7 @@ class ScintillaEditor final : public QsciScintillaBase, public EditorControl {
     void SetUpControl();
     void SetUpDocument();
     void FollowLanguage(const QString &name, LanguageChange change);
+    void PrepareLongLines();
     void InsertLineBreak();
     void ReplaceSelection(std::string_view utf8);
     std::size_t CaretInLine(LineIndex line) const;
@@ -131,6 +132,7 @@ class ScintillaEditor final : public QsciScintillaBase, public EditorControl {
     bool LinesHaveChanged_ = false;
     bool KnownModified_ = false;
     bool LineIsHighlighted_ = false;
+    bool ReadyForLongLines_ = false;
 };
 
 } // namespace Quillbox

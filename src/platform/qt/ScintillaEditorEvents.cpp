@@ -94,6 +94,7 @@ void ScintillaEditor::focusInEvent(QFocusEvent *event) {
 }
 
 void ScintillaEditor::paintEvent(QPaintEvent *event) {
+    PrepareLongLines();
     Colouring_.PrepareShownText();
     QsciScintillaBase::paintEvent(event);
 }

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "SourceText.h"
+
+#include "platform/Dialogs.h"
+#include "platform/qt/FindDialog.h"
+#include "platform/qt/LanguageCatalogue.h"
+#include "platform/qt/ScintillaEditor.h"
+
+#include <QCoreApplication>
+
+#include <cstdlib>
+#include <memory>
+
+namespace Quillbox::Bench {
+
+constexpr std::size_t Megabyte = 1000 * 1000;
+constexpr std::size_t LargeText = 100 * Megabyte;
+
+/// A message during a measurement means that there is nothing to measure.
+class NoDialogs final : public Dialogs {
+  public:
+    MessageAnswer ShowMessage(const Message &) override { std::abort(); }
+    std::optional<QString> ShowOpen(const FileChooser &) override { std::abort(); }
+    std::optional<QString> ShowSave(const FileChooser &) override { std::abort(); }
+};
+
+/// What an editor needs around it.
+struct Workbench {
+    Workbench() { Languages.RegisterLanguage(LanguageName, SourceLanguage()); }
+
+    std::unique_ptr<ScintillaEditor> NewEditor() {
+        auto editor = std::make_unique<ScintillaEditor>(Languages, Find, Messages);
+        editor->SetLanguage(LanguageName);
+        editor->SetLineNumbers(true);
+        editor->resize(1000, 700);
+        editor->show();
+        QCoreApplication::processEvents();
+        return editor;
+    }
+
+    LanguageCatalogue Languages;
+    FindState Find;
+    NoDialogs Messages;
+};
+
+void MeasureLoading();
+void MeasureMemory(const QString &program);
+/// What the process that MeasureMemory starts does: prints its bytes of memory per byte of text.
+void PrintMemoryOfColouredText();
+void MeasureColouring();
+void MeasureLongLine();
+
+} // namespace Quillbox::Bench
