@@ -12,12 +12,13 @@ struct ListDesign {
     NavigationList List;
     const char *Name;
     const char *Label;
+    const char *Hint; ///< shown while no entry is chosen
 };
 
 constexpr ListDesign Designs[] = {
-    {NavigationList::Functions, "cmbFunciones", "Funciones:"},
-    {NavigationList::Labels, "cmbLabels", "Etiquetas:"},
-    {NavigationList::Types, "cmbTypes", "Types:"},
+    {NavigationList::Functions, "cmbFunciones", "Funciones:", "Ir a una función"},
+    {NavigationList::Labels, "cmbLabels", "Etiquetas:", "Ir a una etiqueta"},
+    {NavigationList::Types, "cmbTypes", "Types:", "Ir a un type"},
 };
 
 constexpr int MinimumCharacters = 18;
@@ -37,6 +38,7 @@ NavigationBar::NavigationBar(ListEvent used, QWidget *parent)
         box->setObjectName(QLatin1String(design.Name));
         box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         box->setMinimumContentsLength(MinimumCharacters);
+        box->setPlaceholderText(QString::fromUtf8(design.Hint));
         box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         box->setAccessibleName(QString::fromUtf8(design.Label).chopped(1));
         box->installEventFilter(this);

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QFileInfo>
 #include <QMessageBox>
 
@@ -60,9 +61,21 @@ QString SuffixOf(const QString &filter) {
     return QFileInfo(filter.section(u'|', 1, 1)).suffix();
 }
 
+/// Names what Qt's Spanish texts leave in English in the column of file types.
+class SpanishFileTypes final : public QFileIconProvider {
+  public:
+    QString type(const QFileInfo &info) const override {
+        if (info.isDir())
+            return QStringLiteral("Carpeta");
+        return QStringLiteral("Archivo %1").arg(info.suffix().toUpper()).trimmed();
+    }
+};
+
 /// Runs the chooser in `folder` and remembers where the person went.
 std::optional<QString> Choose(QFileDialog &dialog, QString &folder) {
     dialog.setOption(QFileDialog::DontUseNativeDialog);
+    SpanishFileTypes fileTypes;
+    dialog.setIconProvider(&fileTypes);
     if (!folder.isEmpty())
         dialog.setDirectory(folder);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
