@@ -10,6 +10,7 @@
 
 #include <QDockWidget>
 #include <QFontDatabase>
+#include <QKeyEvent>
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QToolBar>
@@ -20,6 +21,21 @@ namespace {
 
 constexpr QSize ToolIconSize(24, 24);
 constexpr int LogLines = 6;
+
+/// Keeps the keys that select and copy for itself; the Edit menu would use them on the editor.
+class LogPane final : public QPlainTextEdit {
+  protected:
+    bool event(QEvent *event) override {
+        if (event->type() == QEvent::ShortcutOverride) {
+            const auto &key = *static_cast<QKeyEvent *>(event);
+            if (key.matches(QKeySequence::Copy) || key.matches(QKeySequence::SelectAll)) {
+                event->accept();
+                return true;
+            }
+        }
+        return QPlainTextEdit::event(event);
+    }
+};
 
 QIcon IconNamed(const char *name) {
     return QIcon(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(name)));
@@ -117,7 +133,7 @@ void frmMain::BuildDocumentArea() {
 }
 
 void frmMain::BuildLog() {
-    txtLog = new QPlainTextEdit;
+    txtLog = new LogPane;
     txtLog->setObjectName(QStringLiteral("txtLog"));
     txtLog->setReadOnly(true);
     txtLog->setLineWrapMode(QPlainTextEdit::NoWrap);
