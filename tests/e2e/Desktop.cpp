@@ -1,16 +1,38 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Desktop.h"
 
+#include <QDeadlineTimer>
+#include <QSize>
+#include <QThread>
+
 namespace Quillbox {
 namespace {
 
-constexpr int StartMilliseconds = 15000;
+constexpr int StartMilliseconds = 30000;
+/// Of the display at 100 %, in pixels.
+constexpr QSize DisplaySize(1600, 1200);
 
 void Stop(QProcess &process) {
     process.terminate();
     if (!process.waitForFinished(3000))
         process.kill();
     process.waitForFinished(3000);
+}
+
+bool RunTool(const QString &tool, const QStringList &arguments) {
+    QProcess process;
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.setStandardErrorFile(QProcess::nullDevice());
+    process.start(tool, arguments);
+    return process.waitForFinished(StartMilliseconds) && process.exitCode() == 0;
+}
+
+/// Only a window manager that is at work publishes the desktop's number.
+bool WaitForWindowManager() {
+    for (QDeadlineTimer deadline(StartMilliseconds); !deadline.hasExpired(); QThread::msleep(20))
+        if (RunTool(QStringLiteral("xdotool"), {QStringLiteral("get_desktop")}))
+            return true;
+    return false;
 }
 
 } // namespace
@@ -20,7 +42,8 @@ Desktop::Desktop(int scale) {
     qputenv("QT_SCALE_FACTOR", QByteArray::number(scale));
     qputenv("LC_ALL", "C.UTF-8");
     qunsetenv("WAYLAND_DISPLAY");
-    Running_ = StartDisplay() && StartWindowManager();
+    Running_ = StartDisplay(scale) && StartWindowManager() &&
+               RunTool(QStringLiteral("setxkbmap"), {QStringLiteral("es")});
 }
 
 Desktop::~Desktop() {
@@ -29,12 +52,14 @@ Desktop::~Desktop() {
 }
 
 /// The display chooses a free number itself and prints it.
-bool Desktop::StartDisplay() {
+bool Desktop::StartDisplay(int scale) {
+    const QString screen = QStringLiteral("%1x%2x24")
+                               .arg(DisplaySize.width() * scale)
+                               .arg(DisplaySize.height() * scale);
     Display_.setStandardErrorFile(QProcess::nullDevice());
-    Display_.start(QStringLiteral("Xvfb"),
-                   {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                    QStringLiteral("0"), QStringLiteral("1600x1200x24"), QStringLiteral("-nolisten"),
-                    QStringLiteral("tcp")});
+    Display_.start(QStringLiteral("Xvfb"), {QStringLiteral("-displayfd"), QStringLiteral("1"),
+                                            QStringLiteral("-screen"), QStringLiteral("0"), screen,
+                                            QStringLiteral("-nolisten"), QStringLiteral("tcp")});
     QByteArray number;
     while (!number.contains('\n')) {
         if (!Display_.waitForReadyRead(StartMilliseconds))
@@ -47,7 +72,7 @@ bool Desktop::StartDisplay() {
 bool Desktop::StartWindowManager() {
     WindowManager_.setStandardErrorFile(QProcess::nullDevice());
     WindowManager_.start(QStringLiteral("openbox"), {QStringLiteral("--sm-disable")});
-    return WindowManager_.waitForStarted(StartMilliseconds);
+    return WindowManager_.waitForStarted(StartMilliseconds) && WaitForWindowManager();
 }
 
 } // namespace Quillbox

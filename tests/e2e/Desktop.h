@@ -5,8 +5,8 @@
 
 namespace Quillbox {
 
-/// A virtual display with a window manager. It must be made before the QGuiApplication, which then
-/// runs on it, and lasts as long as the process.
+/// A virtual display with a window manager and a Spanish keyboard. It must be made before the
+/// QGuiApplication, which then runs on it, and lasts as long as the process.
 class Desktop {
   public:
     /// `scale` is the factor for programs started on it: 1 for 100 %, 2 for 200 %.
@@ -18,7 +18,7 @@ class Desktop {
     bool IsRunning() const { return Running_; }
 
   private:
-    bool StartDisplay();
+    bool StartDisplay(int scale);
     bool StartWindowManager();
 
     QProcess Display_;

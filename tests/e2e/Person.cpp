@@ -12,31 +12,62 @@
 namespace Quillbox {
 namespace {
 
-constexpr int PollMilliseconds = 50;
+constexpr int PollMilliseconds = 40;
+constexpr int KeyMilliseconds = 40;
+
+void PassTime(int milliseconds) {
+    for (QDeadlineTimer deadline(milliseconds); !deadline.hasExpired();) {
+        QGuiApplication::processEvents();
+        QThread::msleep(10);
+    }
+}
 
 } // namespace
 
+bool WaitUntil(const std::function<bool()> &condition, int milliseconds) {
+    for (QDeadlineTimer deadline(milliseconds); !condition(); PassTime(PollMilliseconds))
+        if (deadline.hasExpired())
+            return false;
+    return true;
+}
+
+QString Exactly(const QString &title) {
+    QString expression;
+    for (const QChar character : title) {
+        if (QStringLiteral("\\.[](){}*+?|^$").contains(character))
+            expression += u'\\';
+        expression += character;
+    }
+    return u'^' + expression + u'$';
+}
+
 qint64 Person::WaitForWindow(const QString &title, int milliseconds) {
-    for (QDeadlineTimer deadline(milliseconds); !deadline.hasExpired(); Pause(PollMilliseconds))
-        if (const qint64 window = FindWindow(title))
-            return window;
-    return 0;
+    qint64 window = 0;
+    WaitUntil([&] { return (window = FindWindow(title)) != 0; }, milliseconds);
+    return window;
 }
 
 bool Person::WaitForNoWindow(const QString &title, int milliseconds) {
-    for (QDeadlineTimer deadline(milliseconds); !deadline.hasExpired(); Pause(PollMilliseconds))
-        if (FindWindow(title) == 0)
-            return true;
-    return false;
+    return WaitUntil([&] { return FindWindow(title) == 0; }, milliseconds);
 }
 
 bool Person::IsWindowThere(const QString &title) { return FindWindow(title) != 0; }
 
+bool Person::WaitForWindowCount(const QString &title, int count) {
+    return WaitUntil([&] { return FindWindows(title).size() == count; });
+}
+
+qint64 Person::ProcessOf(const QString &title) {
+    const qint64 window = FindWindow(title);
+    return window == 0
+               ? 0
+               : Tool({QStringLiteral("getwindowpid"), QString::number(window)}).toLongLong();
+}
+
 bool Person::PressIn(const QString &title, const QStringList &keys) {
     const qint64 window = WaitForWindow(title);
-    if (window == 0)
+    if (window == 0 || !GiveKeyboard(window))
         return false;
-    Tool({QStringLiteral("windowactivate"), QStringLiteral("--sync"), QString::number(window)});
     Press(keys);
     return true;
 }
@@ -44,7 +75,7 @@ bool Person::PressIn(const QString &title, const QStringList &keys) {
 void Person::Press(const QStringList &keys) {
     for (const QString &key : keys) {
         Tool({QStringLiteral("key"), QStringLiteral("--clearmodifiers"), key});
-        Pause(120);
+        Pause(KeyMilliseconds);
     }
 }
 
@@ -57,13 +88,18 @@ void Person::Type(const QString &text) {
             Tool({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("8"),
                   lines[line]});
     }
-    Pause();
+}
+
+void Person::Paste(const QString &text) {
+    QGuiApplication::clipboard()->setText(text);
+    Pause(KeyMilliseconds);
+    Press({QStringLiteral("ctrl+v")});
 }
 
 bool Person::ChooseFile(const QString &title, const QString &path) {
     if (!PressIn(title, {QStringLiteral("alt+n"), QStringLiteral("ctrl+a")}))
         return false;
-    Type(path);
+    Paste(path);
     Press({QStringLiteral("Return")});
     return true;
 }
@@ -72,18 +108,34 @@ bool Person::ClickIn(const QString &title, QPoint place, int button) {
     const qint64 window = WaitForWindow(title);
     if (window == 0)
         return false;
-    Tool({QStringLiteral("mousemove"), QStringLiteral("--sync"), QStringLiteral("--window"),
-          QString::number(window), QString::number(place.x()), QString::number(place.y())});
+    const QPoint size = SizeOf(window);
+    const int x = place.x() < 0 ? size.x() + place.x() : place.x();
+    const int y = place.y() < 0 ? size.y() + place.y() : place.y();
+    Tool({QStringLiteral("mousemove"), QStringLiteral("--window"), QString::number(window),
+          QString::number(x), QString::number(y)});
+    Pause(KeyMilliseconds);
     Tool({QStringLiteral("click"), QString::number(button)});
-    Pause();
+    Pause(KeyMilliseconds);
     return true;
 }
 
 QString Person::CopyAll() {
-    QGuiApplication::clipboard()->clear();
+    QClipboard &clipboard = *QGuiApplication::clipboard();
+    clipboard.clear();
+    Pause(KeyMilliseconds);
     Press({QStringLiteral("ctrl+a"), QStringLiteral("ctrl+c")});
-    Pause();
-    return QGuiApplication::clipboard()->text();
+    WaitUntil([&] { return !clipboard.text().isEmpty(); }, 3000);
+    return clipboard.text();
+}
+
+/// The text stands in the upper part of the box, to the right of its picture.
+QString Person::ReadMessage(const QString &title) {
+    const qint64 window = WaitForWindow(title);
+    if (window == 0)
+        return {};
+    const QPoint size = SizeOf(window);
+    ClickIn(title, QPoint(size.x() / 2, (size.y() - 40) / 2));
+    return CopyAll();
 }
 
 bool Person::Screenshot(const QString &file) {
@@ -91,27 +143,46 @@ bool Person::Screenshot(const QString &file) {
     return QGuiApplication::primaryScreen()->grabWindow(0).save(file);
 }
 
-void Person::Pause(int milliseconds) {
-    for (QDeadlineTimer deadline(milliseconds); !deadline.hasExpired();) {
-        QGuiApplication::processEvents();
-        QThread::msleep(10);
-    }
-}
+void Person::Pause(int milliseconds) { PassTime(milliseconds); }
 
 QString Person::Tool(const QStringList &arguments) {
     QProcess tool;
     tool.setStandardErrorFile(QProcess::nullDevice());
     tool.start(QStringLiteral("xdotool"), arguments);
-    if (!tool.waitForFinished(20000))
+    if (!tool.waitForFinished(PatienceMilliseconds))
         tool.kill();
     return QString::fromUtf8(tool.readAllStandardOutput());
 }
 
+QStringList Person::FindWindows(const QString &title) {
+    return Tool({QStringLiteral("search"), QStringLiteral("--onlyvisible"),
+                 QStringLiteral("--name"), title})
+        .split(u'\n', Qt::SkipEmptyParts);
+}
+
 qint64 Person::FindWindow(const QString &title) {
-    const QString windows =
-        Tool({QStringLiteral("search"), QStringLiteral("--onlyvisible"), QStringLiteral("--name"),
-              title});
-    return windows.section(u'\n', 0, 0).toLongLong();
+    const QStringList windows = FindWindows(title);
+    return windows.isEmpty() ? 0 : windows.first().toLongLong();
+}
+
+QPoint Person::SizeOf(qint64 window) {
+    const QString geometry = Tool(
+        {QStringLiteral("getwindowgeometry"), QStringLiteral("--shell"), QString::number(window)});
+    const auto value = [&](const QString &name) {
+        return geometry.section(name + u'=', 1, 1).section(u'\n', 0, 0).toInt();
+    };
+    return {value(QStringLiteral("WIDTH")), value(QStringLiteral("HEIGHT"))};
+}
+
+/// A window that is just coming up may miss the first request.
+bool Person::GiveKeyboard(qint64 window) {
+    const QString number = QString::number(window);
+    return WaitUntil([&] {
+        const QString active = Tool({QStringLiteral("getactivewindow")}).trimmed();
+        if (active != number)
+            Tool({QStringLiteral("windowactivate"), number});
+        return active == number;
+    });
 }
 
 } // namespace Quillbox

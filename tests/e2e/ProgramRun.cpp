@@ -6,6 +6,22 @@
 #include <QFile>
 
 namespace Quillbox {
+namespace {
+
+QByteArray ReadSystemFile(const QString &path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QProcessEnvironment EnvironmentOf(const ProgramRun &run, const QString &folder) {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("XDG_DATA_HOME"), QDir::cleanPath(run.DataFolder()));
+    environment.insert(QStringLiteral("XDG_CONFIG_HOME"),
+                       QDir::cleanPath(folder + QStringLiteral("/../ajustes")));
+    return environment;
+}
+
+} // namespace
 
 ProgramRun::ProgramRun(const QString &folder)
     : Folder_(folder) {
@@ -23,6 +39,7 @@ bool ProgramRun::Start(const QStringList &prefix) {
     QStringList command = prefix;
     command.append(QDir(Folder_).absoluteFilePath(QStringLiteral("quillbox")));
     Process_.setWorkingDirectory(Folder_);
+    Process_.setProcessEnvironment(EnvironmentOf(*this, Folder_));
     Process_.start(command.takeFirst(), command);
     return Process_.waitForStarted();
 }
@@ -44,6 +61,33 @@ bool CopyFolder(const QString &from, const QString &to) {
                                             : QFile::copy(path, target.filePath(name));
     }
     return copied;
+}
+
+bool PrepareSettings(const QString &folder) {
+    QFile settings(folder + QStringLiteral("/Quillbox.ini"));
+    const QByteArray text = "[Quillbox]\r\nFenixCPath=Checker\r\nMainPath=\r\n";
+    return settings.open(QIODevice::WriteOnly) && settings.write(text) == text.size();
+}
+
+QList<qint64> ChildrenOf(qint64 process) {
+    QList<qint64> children;
+    QDirIterator threads(QStringLiteral("/proc/%1/task").arg(process),
+                         QDir::Dirs | QDir::NoDotAndDotDot);
+    while (threads.hasNext())
+        for (const QByteArray &child :
+             ReadSystemFile(threads.next() + QStringLiteral("/children")).simplified().split(' '))
+            if (!child.isEmpty())
+                children.append(child.toLongLong());
+    return children;
+}
+
+QString StateOf(qint64 process) {
+    const QByteArray status = ReadSystemFile(QStringLiteral("/proc/%1/stat").arg(process));
+    return QString::fromLatin1(status.mid(status.lastIndexOf(')') + 2, 1));
+}
+
+QString ProgramOf(qint64 process) {
+    return QFileInfo(QStringLiteral("/proc/%1/exe").arg(process)).symLinkTarget().section(u'/', -1);
 }
 
 } // namespace Quillbox

@@ -6,7 +6,8 @@
 
 namespace Quillbox {
 
-/// One run of the program in its folder.
+/// One run of the program in its folder. The person's own data and configuration folders are two
+/// folders beside that folder, so that a run meets nothing that an earlier one left.
 class ProgramRun {
   public:
     explicit ProgramRun(const QString &folder);
@@ -17,12 +18,17 @@ class ProgramRun {
     /// Without a command prefix the program is started as it is.
     bool Start(const QStringList &prefix = {});
     /// True when the program ended by itself in time.
-    bool WaitForEnd(int milliseconds = 20000);
+    bool WaitForEnd(int milliseconds = 30000);
     bool IsRunning() const { return Process_.state() == QProcess::Running; }
+    bool HasCrashed() const { return Process_.exitStatus() == QProcess::CrashExit; }
     int ExitCode() const { return Process_.exitCode(); }
     qint64 ProcessId() const { return Process_.processId(); }
+    /// Asks the program to end, as the system does when the person logs out.
+    void Terminate() { Process_.terminate(); }
     /// What it wrote to its standard output and error.
     QString Output() { return QString::fromUtf8(Process_.readAll()); }
+    /// Where the program keeps data for the person.
+    QString DataFolder() const { return Folder_ + QStringLiteral("/../datos"); }
 
   private:
     QString Folder_;
@@ -31,5 +37,19 @@ class ProgramRun {
 
 /// Copies a folder with everything in it.
 bool CopyFolder(const QString &from, const QString &to);
+
+/// Writes a new settings file that names the structure checker and the run notice beside the
+/// program.
+bool PrepareSettings(const QString &folder);
+
+/// The numbers of the processes that the process has started and not yet waited for.
+QList<qint64> ChildrenOf(qint64 process);
+
+/// The letter that the system gives for what the process does: S sleeps, Z has ended and nobody
+/// waited for it. Empty when there is no such process.
+QString StateOf(qint64 process);
+
+/// The file name of the program that the process runs.
+QString ProgramOf(qint64 process);
 
 } // namespace Quillbox

@@ -22,22 +22,22 @@ class MainJob {
         , Folder_(Copy_.filePath(QStringLiteral("Quillbox")))
         , Run_(Folder_) {
         Pictures_.mkpath(QStringLiteral("."));
-        Ready_ = CopyFolder(programFolder, Folder_);
+        Ready_ = CopyFolder(programFolder, Folder_) && PrepareSettings(Folder_);
     }
 
     bool Do() {
         return Step("start the program", Ready_ && Run_.Start() && Splash()) &&
-               Step("see the help page", Person_.WaitForNoWindow(SplashTitle) && Picture("inicio")) &&
-               Step("open the example with a mistake", OpenExample()) &&
-               Step("edit it", Edit()) && Step("check it and land on the error", Check()) &&
-               Step("mend it", Mend()) && Step("run it", RunProgram()) &&
-               Step("leave", Leave());
+               Step("see the help page",
+                    Person_.WaitForNoWindow(SplashTitle) && Picture("inicio")) &&
+               Step("open the example with a mistake", OpenExample()) && Step("edit it", Edit()) &&
+               Step("check it and land on the error", Check()) && Step("mend it", Mend()) &&
+               Step("run it", RunProgram()) && Step("leave", Leave());
     }
 
   private:
     static inline const QString MainTitle = QStringLiteral("Quillbox v1.0 - <Proyecto");
     static inline const QString SplashTitle = QStringLiteral("El equipo de Quillbox");
-    static inline const QString ErrorTitle = QStringLiteral("^Quillbox$");
+    static inline const QString NoticeTitle = QStringLiteral("^Quillbox$");
 
     static bool Step(const char *name, bool done) {
         std::printf("%s %s\n", done ? "  done:  " : "  FAILED:", name);
@@ -54,9 +54,7 @@ class MainJob {
 
     bool Splash() { return Person_.WaitForWindow(SplashTitle) != 0 && Picture("logotipo"); }
 
-    QString Example() const {
-        return Folder_ + QStringLiteral("/examples/09_con_un_error.prg");
-    }
+    QString Example() const { return Folder_ + QStringLiteral("/examples/09_con_un_error.prg"); }
 
     bool OpenExample() {
         return Person_.PressIn(MainTitle, {QStringLiteral("ctrl+o")}) &&
@@ -72,22 +70,27 @@ class MainJob {
 
     bool Check() {
         Person_.Press({QStringLiteral("F7")});
-        const bool shown = Person_.WaitForWindow(QStringLiteral("^Quillbox$")) != 0;
-        return shown && Picture("error") &&
-               Person_.PressIn(QStringLiteral("^Quillbox$"), {QStringLiteral("Return")});
+        return CloseNotice("error");
     }
 
     /// The missing word goes in front of the line that the checker names.
     bool Mend() {
-        Person_.Press({QStringLiteral("Home")});
+        if (!Person_.PressIn(MainTitle, {QStringLiteral("Home")}))
+            return false;
         Person_.Type(QStringLiteral("EndIf\n"));
         return Picture("corregido");
     }
 
     bool RunProgram() {
         Person_.Press({QStringLiteral("F5")});
-        return Person_.WaitForWindow(QStringLiteral("^Quillbox$")) != 0 && Picture("ejecutado") &&
-               Person_.PressIn(QStringLiteral("^Quillbox$"), {QStringLiteral("Return")});
+        return CloseNotice("ejecutado");
+    }
+
+    /// The error line, or what stands in for the game.
+    bool CloseNotice(const char *picture) {
+        return Person_.WaitForWindow(NoticeTitle) != 0 && Picture(picture) &&
+               Person_.PressIn(NoticeTitle, {QStringLiteral("Return")}) &&
+               Person_.WaitForNoWindow(NoticeTitle);
     }
 
     bool Leave() {
