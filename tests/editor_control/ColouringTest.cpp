@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "EditorFixture.h"
 
-#include <QCoreApplication>
-#include <QEvent>
-
 #include <random>
 
 namespace Quillbox::Test {
@@ -211,14 +208,7 @@ TEST_F(EditorColouring, PaintsNoMoreOnceNothingChanges) {
     LoadLines(200);
     Editor->show();
     QCoreApplication::processEvents();
-    struct PaintCounter final : QObject {
-        bool eventFilter(QObject *, QEvent *event) override {
-            Count += event->type() == QEvent::Paint ? 1 : 0;
-            return false;
-        }
-        int Count = 0;
-    } counter;
-    Editor->viewport()->installEventFilter(&counter);
+    PaintCounter counter(*Editor->viewport());
     LanguageDefinition language = TestLanguage();
     language.UserWords = "\nfoo3";
     Languages.RegisterLanguage(LanguageName, language);

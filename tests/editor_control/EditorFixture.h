@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -89,6 +91,20 @@ class EditorTest : public testing::Test {
     FindState Find;
     RecordingDialogs Messages;
     std::unique_ptr<ScintillaEditor> Editor;
+};
+
+/// Counts how often a widget is painted.
+class PaintCounter final : public QObject {
+  public:
+    explicit PaintCounter(QWidget &widget) { widget.installEventFilter(this); }
+
+    int Count = 0;
+
+  private:
+    bool eventFilter(QObject *, QEvent *event) override {
+        Count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
 };
 
 constexpr TextPosition At(int line, int column) { return {{line}, {column}}; }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "EditorFixture.h"
 
-#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QRegularExpression>
 #include <QSignalSpy>

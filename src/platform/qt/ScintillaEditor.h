@@ -84,7 +84,8 @@ class ScintillaEditor final : public QsciScintillaBase, public EditorControl {
     void ModifiedChanged(bool modified);
     /// Before the key does anything; repeated while it is held.
     void KeyDown();
-    /// Once per key, when it is let go: 13 Enter, 8 Backspace, 46 Delete, others without promise.
+    /// Once per key, when it is let go: 13 Enter, 8 Backspace, 46 Delete, letters and digits their
+    /// ASCII code, 0 for any other key.
     void KeyUp(int windowsKeyCode);
     void MouseReleased();
     void ContextMenuRequested(QPoint globalPosition);
@@ -101,7 +102,6 @@ class ScintillaEditor final : public QsciScintillaBase, public EditorControl {
     void focusInEvent(QFocusEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     QByteArray fromMimeData(const QMimeData *source, bool &rectangular) const override;
-    QMimeData *toMimeData(const QByteArray &text, bool rectangular) const override;
 
   private:
     void SetUpControl();

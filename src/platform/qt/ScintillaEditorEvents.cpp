@@ -105,15 +105,4 @@ QByteArray ScintillaEditor::fromMimeData(const QMimeData *source, bool &rectangu
     return EditorBytes(source->text());
 }
 
-/// The component hands over a copied text only as far as its first NUL; the whole one is the
-/// selection.
-QMimeData *ScintillaEditor::toMimeData(const QByteArray &text, bool rectangular) const {
-    const std::string_view selected = Text_.Bytes(Text_.SelectionStart(), Text_.SelectionEnd());
-    const std::string_view given(text.constData(), static_cast<std::size_t>(text.size()));
-    const bool whole = rectangular || !selected.starts_with(given);
-    const QByteArray copied =
-        whole ? text : QByteArray(selected.data(), static_cast<qsizetype>(selected.size()));
-    return QsciScintillaBase::toMimeData(copied, rectangular);
-}
-
 } // namespace Quillbox

@@ -30,8 +30,11 @@ int WindowsKeyCodeOf(const QKeyEvent &event) {
     case Qt::Key_Delete:
         return 46;
     default:
-        return event.key() < 0x100 ? event.key() : 0;
+        break;
     }
+    const bool letter = event.key() >= Qt::Key_A && event.key() <= Qt::Key_Z;
+    const bool digit = event.key() >= Qt::Key_0 && event.key() <= Qt::Key_9;
+    return letter || digit ? event.key() : 0;
 }
 
 } // namespace Quillbox

@@ -14,7 +14,7 @@ void ClearLetterCommands(const ScintillaText &text);
 /// The control character of a key pressed with Ctrl alone (1 for A ... 26 for Z), 0 for none.
 int ControlCharacterOf(const QKeyEvent &event);
 
-/// 13 for Enter, 8 for Backspace, 46 for Delete, otherwise the low byte of the key's number.
+/// 13 for Enter, 8 for Backspace, 46 for Delete, the ASCII code of letters and digits, otherwise 0.
 int WindowsKeyCodeOf(const QKeyEvent &event);
 
 } // namespace Quillbox
