@@ -80,8 +80,9 @@ std::optional<QString> Choose(QFileDialog &dialog, QString &folder) {
         dialog.setDirectory(folder);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
-    folder = dialog.directory().absolutePath();
-    return QDir::toNativeSeparators(dialog.selectedFiles().constFirst());
+    const QString chosen = dialog.selectedFiles().constFirst();
+    folder = QFileInfo(chosen).absolutePath(); // the dialog's own, unless a whole path was typed
+    return QDir::toNativeSeparators(chosen);
 }
 
 } // namespace
