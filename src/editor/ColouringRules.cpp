@@ -71,7 +71,7 @@ void ColouringRules::AddMarker(const QString &text, MarkerKind kind) {
 
 ColouringState ColouringRules::Colour(std::string_view text, ColouringState state,
                                       TextStyle *styles) const {
-    return ColouringScanner(*this, text, styles).Run(state);
+    return text.empty() ? state : ColouringScanner(*this, text, styles).Run(state);
 }
 
 } // namespace Quillbox

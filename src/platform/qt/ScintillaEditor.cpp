@@ -64,6 +64,8 @@ void ScintillaEditor::SetUpControl() {
     Text_.Send(SCI_SETSCROLLWIDTHTRACKING, 1);
     Text_.Send(SCI_SETENDATLASTLINE, 0); // any line can stand at the top, as an error line does
     Text_.Send(SCI_SETSCROLLWIDTH, 1);
+    // A line at the end of the text can become the first one in view, as any other.
+    Text_.Send(SCI_SETENDATLASTLINE, 0);
     Text_.Send(SCI_SETLAYOUTCACHE, SC_CACHE_PAGE);
     ClearLetterCommands(Text_);
 }

@@ -79,7 +79,7 @@ class ScintillaEditor final : public QsciScintillaBase, public EditorControl {
     void ReplaceSel(const QString &text) override;
 
   signals:
-    /// After each edit, undo and redo, and once when the control has got another text.
+    /// After each edit, undo and redo; not when the control gets another text.
     void TextChanged();
     void ModifiedChanged(bool modified);
     /// Before the key does anything; repeated while it is held.

@@ -53,10 +53,8 @@ void ScintillaEditor::TakeContentsFrom(EditorControl &other) {
 }
 
 void ScintillaEditor::TellOtherText() {
-    Perform([this] {
-        TextHasChanged_ = true;
-        LinesHaveChanged_ = true;
-    });
+    LinesHaveChanged_ = true;
+    TellChanges();
 }
 
 } // namespace Quillbox
