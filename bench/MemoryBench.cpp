@@ -11,16 +11,12 @@
 
 namespace Quillbox::Bench {
 
-namespace {
-
 double ResidentBytes() {
     QFile file(QStringLiteral("/proc/self/statm"));
     if (!file.open(QIODevice::ReadOnly))
         std::abort();
     return file.readAll().split(' ').at(1).toDouble() * static_cast<double>(sysconf(_SC_PAGESIZE));
 }
-
-} // namespace
 
 void PrintMemoryOfColouredText() {
     Workbench bench;

@@ -51,5 +51,9 @@ void MeasureMemory(const QString &program);
 void PrintMemoryOfColouredText();
 void MeasureColouring();
 void MeasureLongLine();
+void MeasureDocuments();
+
+/// What this process holds in memory now.
+double ResidentBytes();
 
 } // namespace Quillbox::Bench

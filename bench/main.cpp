@@ -4,7 +4,7 @@
 #include <QApplication>
 
 /// Without arguments measures everything; otherwise what the arguments name: loading, memory,
-/// colouring, line.
+/// colouring, line, documents.
 int main(int argc, char *argv[]) {
     using namespace Quillbox::Bench;
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
@@ -26,5 +26,7 @@ int main(int argc, char *argv[]) {
         MeasureColouring();
     if (isWanted("line"))
         MeasureLongLine();
+    if (isWanted("documents"))
+        MeasureDocuments();
     return 0;
 }

@@ -62,7 +62,6 @@ void ScintillaEditor::SetUpControl() {
     Text_.Send(SCI_SETMODEVENTMASK, SC_MOD_INSERTTEXT | SC_MOD_DELETETEXT);
     Text_.Send(SCI_USEPOPUP, 0);
     Text_.Send(SCI_SETSCROLLWIDTHTRACKING, 1);
-    Text_.Send(SCI_SETENDATLASTLINE, 0); // any line can stand at the top, as an error line does
     Text_.Send(SCI_SETSCROLLWIDTH, 1);
     // A line at the end of the text can become the first one in view, as any other.
     Text_.Send(SCI_SETENDATLASTLINE, 0);
