@@ -9,6 +9,8 @@
 #include <QScreen>
 #include <QThread>
 
+#include <algorithm>
+
 namespace Quillbox {
 namespace {
 
@@ -55,6 +57,14 @@ bool Person::IsWindowThere(const QString &title) { return FindWindow(title) != 0
 
 bool Person::WaitForWindowCount(const QString &title, int count) {
     return WaitUntil([&] { return FindWindows(title).size() == count; });
+}
+
+bool Person::WaitForMenu() {
+    return WaitUntil([this] { return IsMenuThere(); });
+}
+
+bool Person::WaitForNoMenu() {
+    return WaitUntil([this] { return !IsMenuThere(); });
 }
 
 qint64 Person::ProcessOf(const QString &title) {
@@ -163,6 +173,15 @@ QStringList Person::FindWindows(const QString &title) {
 qint64 Person::FindWindow(const QString &title) {
     const QStringList windows = FindWindows(title);
     return windows.isEmpty() ? 0 : windows.first().toLongLong();
+}
+
+bool Person::IsMenuThere() {
+    const QStringList titled = FindWindows(QStringLiteral("."));
+    const QStringList all = Tool({QStringLiteral("search"), QStringLiteral("--onlyvisible"),
+                                  QStringLiteral("--class"), QStringLiteral("^quillbox$")})
+                                .split(u'\n', Qt::SkipEmptyParts);
+    return std::any_of(all.begin(), all.end(),
+                       [&](const QString &window) { return !titled.contains(window); });
 }
 
 QPoint Person::SizeOf(qint64 window) {

@@ -28,6 +28,9 @@ class Person {
     bool IsWindowThere(const QString &title);
     /// For questions that have the title of the window that asks them.
     bool WaitForWindowCount(const QString &title, int count);
+    /// A menu is a window without a title.
+    bool WaitForMenu();
+    bool WaitForNoMenu();
     /// The number of the process that shows the window, 0 without a window.
     qint64 ProcessOf(const QString &title);
 
@@ -58,6 +61,7 @@ class Person {
     QString Tool(const QStringList &arguments);
     QStringList FindWindows(const QString &title);
     qint64 FindWindow(const QString &title);
+    bool IsMenuThere();
     QPoint SizeOf(qint64 window);
     bool GiveKeyboard(qint64 window);
 };

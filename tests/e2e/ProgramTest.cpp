@@ -24,7 +24,7 @@ QByteArray BytesOf(const QString &path) {
 }
 
 QByteArray BytesOnceThey(const QByteArray &expected, const QString &path) {
-    WaitUntil([&] { return BytesOf(path) == expected; }, 10000);
+    WaitUntil([&] { return BytesOf(path) == expected; });
     return BytesOf(path);
 }
 
