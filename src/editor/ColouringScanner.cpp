@@ -7,7 +7,7 @@ namespace Quillbox {
 
 namespace {
 
-bool IsDigit(char byte) { return byte >= '0' && byte <= '9'; }
+bool IsDigit(char byte) { return static_cast<unsigned char>(byte - '0') < 10; }
 bool IsBinaryDigit(char byte) { return byte == '0' || byte == '1'; }
 bool IsHexDigit(char byte) {
     return IsDigit(byte) || (byte >= 'a' && byte <= 'f') || (byte >= 'A' && byte <= 'F');
@@ -90,7 +90,7 @@ void ColouringScanner::ScanMarker(ByteClass otherwise) {
     }
 }
 
-void ColouringScanner::ScanNumber() { Fill(DecimalEnd(Position_), TextStyle::Number); }
+void ColouringScanner::ScanNumber() { Fill(FractionEnd(DigitsEnd(Position_)), TextStyle::Number); }
 
 void ColouringScanner::ScanPrefixed() {
     const std::size_t end = IsBehindOperand() ? Position_ : PrefixedNumberEnd();
@@ -140,28 +140,21 @@ void ColouringScanner::ScanMultiLineComment(std::size_t searchStart) {
     Fill(CommentOpen_ ? Text_.size() : found + marker.size(), TextStyle::MultiLineComment);
 }
 
-std::size_t ColouringScanner::DecimalEnd(std::size_t position) const {
-    while (IsDigit(ByteAt(position)))
+/// The first place from `position` on that holds no decimal digit.
+std::size_t ColouringScanner::DigitsEnd(std::size_t position) const {
+    while (position < Text_.size() && IsDigit(Text_[position]))
         ++position;
-    return FractionEnd(position);
+    return position;
 }
 
 std::size_t ColouringScanner::FractionEnd(std::size_t position) const {
-    if (ByteAt(position) == '.' && IsDigit(ByteAt(position + 1))) {
-        ++position;
-        while (IsDigit(ByteAt(position)))
-            ++position;
-    }
-    const char letter = ByteAt(position);
-    if (letter != 'e' && letter != 'E')
+    if (ByteAt(position) == '.' && IsDigit(ByteAt(position + 1)))
+        position = DigitsEnd(position + 1);
+    if ((ByteAt(position) | 0x20) != 'e')
         return position;
     const char sign = ByteAt(position + 1);
-    std::size_t digits = position + (sign == '+' || sign == '-' ? 2 : 1);
-    if (!IsDigit(ByteAt(digits)))
-        return position;
-    while (IsDigit(ByteAt(digits)))
-        ++digits;
-    return digits;
+    const std::size_t digits = position + (sign == '+' || sign == '-' ? 2 : 1);
+    return IsDigit(ByteAt(digits)) ? DigitsEnd(digits) : position;
 }
 
 std::size_t ColouringScanner::PrefixedNumberEnd() const {
@@ -181,20 +174,17 @@ std::size_t ColouringScanner::LineEnd(std::size_t position) const {
     return position;
 }
 
-/// NUL behind the end.
-char ColouringScanner::ByteAt(std::size_t position) const {
-    return position < Text_.size() ? Text_[position] : '\0';
-}
-
 /// Most tokens are short; a few bytes too many are written over by the tokens behind.
 void ColouringScanner::Fill(std::size_t end, TextStyle style) {
     constexpr std::size_t block = 16;
     TextStyle *const start = Styles_ + Position_;
-    if (end - Position_ <= block && Text_.size() - Position_ >= block)
+    const std::size_t length = end - Position_;
+    const std::size_t room = Text_.size() - Position_;
+    Position_ = end;
+    if (length <= block && room >= block)
         std::memset(start, static_cast<int>(style), block);
     else
-        std::memset(start, static_cast<int>(style), end - Position_);
-    Position_ = end;
+        std::memset(start, static_cast<int>(style), length);
 }
 
 } // namespace Quillbox

@@ -33,11 +33,14 @@ class ColouringScanner {
     TextStyle SingleStyleAt(std::size_t position) const {
         return Rules_.SingleStyles_[static_cast<unsigned char>(Text_[position])];
     }
-    std::size_t DecimalEnd(std::size_t position) const;
+    std::size_t DigitsEnd(std::size_t position) const;
     std::size_t FractionEnd(std::size_t position) const;
     std::size_t PrefixedNumberEnd() const;
     std::size_t LineEnd(std::size_t position) const;
-    char ByteAt(std::size_t position) const;
+    /// NUL behind the end.
+    char ByteAt(std::size_t position) const {
+        return position < Text_.size() ? Text_[position] : '\0';
+    }
     void Fill(std::size_t end, TextStyle style);
 
     const ColouringRules &Rules_;

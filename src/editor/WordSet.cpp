@@ -31,10 +31,13 @@ constexpr std::uint64_t FirstBytes(std::uint64_t value, std::size_t count) {
     return value & (IsLittleEndian ? lowBytes : ~(~std::uint64_t{0} >> (8 * count)));
 }
 
-constexpr std::array<bool, 256> WordByteTable = [] {
-    std::array<bool, 256> table{};
+/// For each byte what it tells about a word: 0 that it is none of its bytes, else its high bit
+/// that the word is not all ASCII.
+constexpr std::array<std::uint8_t, 256> WordByteTable = [] {
+    std::array<std::uint8_t, 256> table{};
     for (std::size_t code = 0; code < table.size(); ++code)
-        table[code] = IsWordByte(static_cast<char>(code));
+        if (IsWordByte(static_cast<char>(code)))
+            table[code] = code < 0x80 ? 0x01 : 0x81;
     return table;
 }();
 
@@ -45,15 +48,16 @@ struct WordBeginning {
 
 /// The word bytes that `text` begins with.
 WordBeginning ReadWordBytes(std::string_view text) {
-    std::size_t length = 0;
-    unsigned char seen = 0;
-    for (; length < text.size(); ++length) {
-        const auto code = static_cast<unsigned char>(text[length]);
-        if (!WordByteTable[code])
+    const char *byte = text.data();
+    const char *const end = byte + text.size();
+    std::uint8_t seen = 0;
+    for (; byte != end; ++byte) {
+        const std::uint8_t told = WordByteTable[static_cast<unsigned char>(*byte)];
+        if (told == 0)
             break;
-        seen |= code;
+        seen |= told;
     }
-    return {length, seen < 0x80};
+    return {static_cast<std::size_t>(byte - text.data()), seen < 0x80};
 }
 
 bool IsAscii(std::string_view text) {
@@ -82,6 +86,32 @@ WordSet::WordSet(CaseSensitivity sensitivity)
     : Case_(sensitivity)
     , LetterMask_(sensitivity == CaseSensitivity::On ? ~std::uint64_t{0} : EveryByte * CaseMask)
     , Slots_(FewestSlots) {}
+
+/// `readable` says how many bytes may be read where `word` begins.
+inline WordSet::Key WordSet::KeyOf(std::string_view word, std::size_t readable) const {
+    const std::size_t length = word.size();
+    if (length >= 8)
+        return {EightBytes(word.data()) & LetterMask_,
+                EightBytes(word.data() + length - 8) & LetterMask_, length};
+    if (readable >= 8)
+        return {FirstBytes(EightBytes(word.data()), length) & LetterMask_, 0, length};
+    std::uint64_t head = 0;
+    std::memcpy(&head, word.data(), length);
+    return {head & LetterMask_, 0, length};
+}
+
+inline WordSet::Mark WordSet::FindKey(const Key &key, std::string_view word, bool isAscii) const {
+    const std::size_t last = Slots_.size() - 1;
+    for (std::size_t index = HashOf(key) & last; Slots_[index] != 0; index = (index + 1) & last) {
+        const Entry &entry = Entries_[Slots_[index] - 1];
+        // Up to 16 bytes the keys hold all of an ASCII word; among other bytes the mask may have
+        // made different ones equal.
+        if (entry.Word == key &&
+            ((isAscii && word.size() <= 16) || HasLetters(entry, word, isAscii)))
+            return entry.Tag;
+    }
+    return NoMark;
+}
 
 void WordSet::Add(std::string_view word, Mark mark) {
     const std::string folded = FoldedWord(word, Case_);
@@ -114,34 +144,8 @@ WordSet::Mark WordSet::Find(std::string_view word) const {
     return found.Length == word.size() ? found.Tag : NoMark;
 }
 
-/// `readable` says how many bytes may be read where `word` begins.
-WordSet::Key WordSet::KeyOf(std::string_view word, std::size_t readable) const {
-    const std::size_t length = word.size();
-    if (length >= 8)
-        return {EightBytes(word.data()) & LetterMask_,
-                EightBytes(word.data() + length - 8) & LetterMask_, length};
-    if (readable >= 8)
-        return {FirstBytes(EightBytes(word.data()), length) & LetterMask_, 0, length};
-    std::uint64_t head = 0;
-    std::memcpy(&head, word.data(), length);
-    return {head & LetterMask_, 0, length};
-}
-
-WordSet::Mark WordSet::FindKey(const Key &key, std::string_view word, bool isAscii) const {
-    const std::size_t last = Slots_.size() - 1;
-    for (std::size_t index = HashOf(key) & last; Slots_[index] != 0; index = (index + 1) & last) {
-        const Entry &entry = Entries_[Slots_[index] - 1];
-        if (entry.Word == key && HasLetters(entry, word, isAscii))
-            return entry.Tag;
-    }
-    return NoMark;
-}
-
-/// For words whose keys are equal: whether they are the same. Up to 16 bytes the keys hold all of
-/// an ASCII word; among other bytes the mask may have made different ones equal.
+/// For words whose keys are equal: whether they are the same.
 bool WordSet::HasLetters(const Entry &entry, std::string_view word, bool isAscii) const {
-    if (isAscii && word.size() <= 16)
-        return true;
     const auto mask = static_cast<std::uint8_t>(isAscii ? LetterMask_ : ~std::uint64_t{0});
     return std::equal(word.begin(), word.end(), Letters_.data() + entry.Start,
                       [mask](char one, char other) { return ((one ^ other) & mask) == 0; });
