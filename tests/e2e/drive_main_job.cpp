@@ -30,6 +30,7 @@ class MainJob {
                Step("see the help page",
                     Person_.WaitForNoWindow(SplashTitle) && Picture("inicio")) &&
                Step("open the example with a mistake", OpenExample()) && Step("edit it", Edit()) &&
+               Step("look for a word", LookForWord()) && Step("open a menu", OpenMenu()) &&
                Step("check it and land on the error", Check()) && Step("mend it", Mend()) &&
                Step("run it", RunProgram()) && Step("leave", Leave());
     }
@@ -39,16 +40,19 @@ class MainJob {
     static inline const QString SplashTitle = QStringLiteral("El equipo de Quillbox");
     static inline const QString NoticeTitle = QStringLiteral("^Quillbox$");
 
-    static bool Step(const char *name, bool done) {
+    bool Step(const char *name, bool done) {
         std::printf("%s %s\n", done ? "  done:  " : "  FAILED:", name);
         std::fflush(stdout);
+        if (!done)
+            Picture("fallo");
         return done;
     }
 
     bool Picture(const char *name) {
         ++PictureCount_;
-        const QString file = Pictures_.filePath(
-            QStringLiteral("%1_%2.png").arg(PictureCount_).arg(QLatin1String(name)));
+        const QString file = Pictures_.filePath(QStringLiteral("%1_%2.png")
+                                                    .arg(PictureCount_, 2, 10, QLatin1Char('0'))
+                                                    .arg(QLatin1String(name)));
         return Person_.Screenshot(file);
     }
 
@@ -58,14 +62,35 @@ class MainJob {
 
     bool OpenExample() {
         return Person_.PressIn(MainTitle, {QStringLiteral("ctrl+o")}) &&
-               Person_.ChooseFile(QStringLiteral("Abrir"), Example()) &&
-               Person_.WaitForWindow(QStringLiteral("09_con_un_error.prg")) && Picture("abierto");
+               Person_.WaitForWindow(QStringLiteral("^Abrir$")) != 0 && Picture("elegir") &&
+               Person_.ChooseFile(QStringLiteral("^Abrir$"), Example()) &&
+               Person_.WaitForWindow(QStringLiteral("09_con_un_error.prg")) != 0 &&
+               Picture("abierto");
     }
 
     bool Edit() {
         Person_.Press({QStringLiteral("ctrl+Home")});
         Person_.Type(QStringLiteral("; una prueba\n"));
         return Picture("editado");
+    }
+
+    bool LookForWord() {
+        const QString title = QStringLiteral("^Buscar y reemplazar$");
+        if (!Person_.PressIn(MainTitle, {QStringLiteral("ctrl+f")}) || !Person_.PressIn(title, {}))
+            return false;
+        Person_.Type(QStringLiteral("altura\n"));
+        return Picture("buscar") && Person_.PressIn(title, {QStringLiteral("Escape")});
+    }
+
+    bool OpenMenu() {
+        return Person_.PressIn(MainTitle, {QStringLiteral("alt+e")}) && Person_.WaitForMenu() &&
+               Picture("menu") && LeaveMenu();
+    }
+
+    /// The first key leaves the menu, the second one the menu bar.
+    bool LeaveMenu() {
+        Person_.Press({QStringLiteral("Escape"), QStringLiteral("Escape")});
+        return Person_.WaitForNoMenu();
     }
 
     bool Check() {
@@ -83,7 +108,9 @@ class MainJob {
 
     bool RunProgram() {
         Person_.Press({QStringLiteral("F5")});
-        return CloseNotice("ejecutado");
+        return Person_.WaitForWindow(NoticeTitle) != 0 &&
+               ProgramOf(Person_.ProcessOf(NoticeTitle)) == QStringLiteral("FXI.exe") &&
+               CloseNotice("ejecutado");
     }
 
     /// The error line, or what stands in for the game.
@@ -93,8 +120,15 @@ class MainJob {
                Person_.WaitForNoWindow(NoticeTitle);
     }
 
+    /// With a change that nobody wants to keep.
     bool Leave() {
-        return Person_.PressIn(MainTitle, {QStringLiteral("ctrl+q")}) && Run_.WaitForEnd() &&
+        if (!Person_.PressIn(MainTitle, {}))
+            return false;
+        Person_.Type(QStringLiteral("x"));
+        Person_.Press({QStringLiteral("ctrl+q")});
+        const QString question = QStringLiteral("^Atención$");
+        return Person_.WaitForWindow(question) != 0 && Picture("salir") &&
+               Person_.PressIn(question, {QStringLiteral("alt+n")}) && Run_.WaitForEnd() &&
                Run_.ExitCode() == 0;
     }
 
