@@ -23,6 +23,10 @@ class FailingSave : public ProgramTest {
     /// Saves, reads the message, which must give this reason, and closes it.
     void SaveInVain(const QString &reason) {
         ASSERT_TRUE(Press({QStringLiteral("ctrl+s")}));
+        CloseMessage(reason);
+    }
+
+    void CloseMessage(const QString &reason) {
         const QString message = Person_.ReadMessage(ErrorTitle);
         ASSERT_TRUE(Person_.PressIn(ErrorTitle, {QStringLiteral("Return")}));
         ASSERT_TRUE(Person_.WaitForNoWindow(ErrorTitle));
@@ -125,6 +129,16 @@ TEST_F(FailingSave, InAFolderThatHasGoneSaysSo) {
     SaveInVain(QStringLiteral("La carpeta ya no existe."));
     EXPECT_TRUE(BytesOf(elsewhere + QStringLiteral("/juego.prg")) == OldBytes);
     EXPECT_TRUE(ClosesWithQuestion(Game_));
+}
+
+TEST_F(FailingSave, BeforeTheDocumentClosesLeavesTheTextInTheCopy) {
+    ASSERT_TRUE(OpenChanged());
+    ASSERT_TRUE(QFile::setPermissions(Game_, QFile::ReadOwner));
+    ASSERT_TRUE(Press({QStringLiteral("ctrl+w")}));
+    ASSERT_TRUE(Person_.PressIn(QuestionTitle, {QStringLiteral("alt+s")}));
+    CloseMessage(QStringLiteral("El archivo está protegido contra escritura."));
+    EXPECT_TRUE(ShowsHelp());
+    EXPECT_TRUE(BytesOf(Game_) == OldBytes);
 }
 
 TEST_F(FailingSave, SucceedsOnceTheReasonIsGone) {

@@ -63,6 +63,14 @@ TEST_F(Keyboard, WalksThroughTheDocumentsAndTheHelpPage) {
     EXPECT_EQ(BytesOnceThey("x2", second), "x2");
 }
 
+TEST_F(Keyboard, ClosesADocumentWithTheKeyOfChildWindows) {
+    ASSERT_TRUE(OpenFile("Cls"));
+    Person_.Type(QStringLiteral("x"));
+    ASSERT_TRUE(Press({QStringLiteral("ctrl+F4")}));
+    ASSERT_TRUE(Person_.PressIn(QuestionTitle, {QStringLiteral("alt+n")}));
+    EXPECT_TRUE(ShowsHelp());
+}
+
 TEST_F(Keyboard, GoingOnWithNoDocumentOpenIsARunTimeErrorAndTheProgramGoesOn) {
     ASSERT_TRUE(Start());
     ASSERT_TRUE(OpenNew());

@@ -20,6 +20,10 @@ constexpr QPoint LeaveButton = ButtonAt(722);
 constexpr QPoint HelpTab(30, 105);
 constexpr QPoint FirstTab(85, 105);
 
+/// A maximised document's boxes at the right end of the menu bar.
+constexpr QPoint DocumentRestoreBox(-32, 11);
+constexpr QPoint DocumentCloseBox(-12, 11);
+
 constexpr QPoint InTheText(120, 150);
 
 /// Everything by mouse that a mouse can do.
@@ -113,6 +117,31 @@ TEST_F(Mouse, PutsTheCaretWhereItClicks) {
     Person_.Type(QStringLiteral("x"));
     Person_.Press({QStringLiteral("ctrl+s")});
     EXPECT_EQ(BytesOnceThey("unox\r\ndos\r\n", Game_), "unox\r\ndos\r\n");
+}
+
+TEST_F(Mouse, AsksAboutChangesWhenTheCloseBoxOfADocumentIsClicked) {
+    ASSERT_TRUE(OpenFile("Cls"));
+    Person_.Type(QStringLiteral("x"));
+    ASSERT_TRUE(Click(DocumentCloseBox));
+    ASSERT_TRUE(Person_.PressIn(QuestionTitle, {QStringLiteral("alt+s")}));
+    EXPECT_EQ(BytesOnceThey("xCls", Game_), "xCls");
+    EXPECT_TRUE(ShowsHelp());
+}
+
+TEST_F(Mouse, KeepsTheNamesOfDocumentsWhoseWindowsLieBesideEachOther) {
+    ASSERT_TRUE(OpenFile("Cls"));
+    const QString other = Write(QStringLiteral("otro.prg"), "2");
+    ASSERT_TRUE(Open(other));
+    ASSERT_TRUE(Click(DocumentRestoreBox));
+    ASSERT_NE(
+        Person_.WaitForWindow(Exactly(QStringLiteral("Quillbox v1.0 - <Proyecto no abierto>"))), 0);
+    ASSERT_TRUE(Press({QStringLiteral("ctrl+shift+F6")}));
+    ASSERT_TRUE(Shows(Game_));
+    Person_.Type(QStringLiteral("x"));
+    ASSERT_TRUE(Click(RunButton));
+    ASSERT_TRUE(Person_.PressIn(NoticeTitle, {QStringLiteral("Return")}));
+    EXPECT_EQ(BytesOf(Game_), "xCls");
+    EXPECT_EQ(BytesOf(other), "2");
 }
 
 } // namespace Quillbox
