@@ -4,6 +4,8 @@
 
 int main(int argc, char *argv[]) {
     testing::InitGoogleMock(&argc, argv);
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }
