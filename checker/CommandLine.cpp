@@ -42,7 +42,7 @@ std::optional<CommandLine> ParseCommandLine(std::span<const char *const> argumen
 
 Answer DescribeUsage() {
     return AnswerWith(NotChecked,
-                      {"Uso: StructureChecker [-o EJECUTABLE] PROGRAMA",
+                      {"Uso: Checker [-o EJECUTABLE] PROGRAMA",
                        "Comprueba la estructura de un programa de Blitz3D. No es un compilador:",
                        "con -o comprueba lo mismo y no crea ningún ejecutable."});
 }

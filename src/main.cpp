@@ -7,6 +7,7 @@
 #include "platform/SystemConsoleProcess.h"
 #include "platform/SystemFiles.h"
 #include "platform/SystemPrograms.h"
+#include "platform/qt/PlainButtonStyle.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtEventLoop.h"
 #include "platform/qt/SpanishInterface.h"
@@ -33,6 +34,7 @@ void StartOrQuit(std::optional<Program> &program, const Outside &outside) {
 
 int Run() {
     QApplication::setApplicationName(QStringLiteral("Quillbox"));
+    QApplication::setStyle(new PlainButtonStyle);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/quillbox.svg")));
 
     const QString appDir = AppDirOf(ProgramFolder());

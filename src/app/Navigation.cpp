@@ -45,12 +45,13 @@ void Navigation::mnuVentana_Ayuda_Click() {
 }
 
 void Navigation::ActivateWindow(const DocumentWindow *window) {
-    for (int position = 0; position <= Registry_.DocumentCount; ++position) {
-        const DocumentWindow *candidate =
-            position == 0 ? nullptr : Registry_.Documents[position].Window;
-        if (candidate == window && position != Registry_.CurrentIndex)
-            return Tabs_.SelectTab(position + 1);
-    }
+    int position = 0;
+    if (window)
+        for (position = Registry_.DocumentCount; position > 0; --position)
+            if (Registry_.Documents[position].Window == window)
+                break;
+    if (position != Registry_.CurrentIndex && (position > 0 || !window))
+        Tabs_.SelectTab(position + 1);
 }
 
 void Navigation::ActivateHelpPage() {

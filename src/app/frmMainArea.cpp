@@ -34,6 +34,7 @@ void DocumentArea::Activate(QMdiSubWindow *window) {
 }
 
 void DocumentArea::Remove(QMdiSubWindow *window) {
+    const QSignalBlocker blocker(this);
     Windows_.removeOne(window);
     disconnect(window, nullptr, &ArrangeTimer_, nullptr);
     if (window->mdiArea() == this)
@@ -70,7 +71,6 @@ void DocumentArea::TakeOutAllBut(QMdiSubWindow *active) {
     }
 }
 
-/// Nobody has chosen the windows that become active on the way.
 void DocumentArea::ShowAllBehind(QMdiSubWindow *active) {
     const QSignalBlocker blocker(this);
     for (QMdiSubWindow *window : std::as_const(Windows_))

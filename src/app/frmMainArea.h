@@ -10,7 +10,8 @@ namespace Quillbox {
 
 /// The area of the document windows. While the active one is maximised the others stay outside the
 /// area: nobody sees them, and a thousand of them would take part in every repaint and every change
-/// of the active window.
+/// of the active window. subWindowActivated tells of windows that a person or a rule made active,
+/// not of those that become active because others come and go.
 class DocumentArea final : public QMdiArea {
     Q_OBJECT
   public:

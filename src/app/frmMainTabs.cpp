@@ -4,6 +4,14 @@
 #include <QSignalBlocker>
 
 namespace Quillbox {
+namespace {
+
+/// A file name's "&" must not become a mnemonic.
+QString TabText(const QString &caption) {
+    return QString(caption).replace(u'&', QStringLiteral("&&"));
+}
+
+} // namespace
 
 DocumentTabs::DocumentTabs(std::function<void(int)> click, QWidget *parent)
     : QTabBar(parent)
@@ -23,7 +31,7 @@ DocumentTabs::DocumentTabs(std::function<void(int)> click, QWidget *parent)
 
 void DocumentTabs::AddTab(int position, const QString &caption) {
     const QSignalBlocker blocker(this);
-    insertTab(position - 1, QString(caption).replace(u'&', QStringLiteral("&&")));
+    insertTab(position - 1, TabText(caption));
 }
 
 void DocumentTabs::RemoveTab(int position) {
@@ -43,7 +51,7 @@ void DocumentTabs::SelectTab(int position) {
 int DocumentTabs::SelectedTab() const { return SelectedTab_; }
 
 void DocumentTabs::SetTabCaption(int position, const QString &caption) {
-    const QString text = QString(caption).replace(u'&', QStringLiteral("&&"));
+    const QString text = TabText(caption);
     if (tabText(position - 1) != text)
         setTabText(position - 1, text);
 }

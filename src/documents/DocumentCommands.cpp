@@ -89,9 +89,8 @@ void DocumentCommands::mnuArchivo_Imprimir_Click() {
 bool DocumentCommands::RefuseWhenFull() {
     if (Registry_.DocumentCount < DocumentRegistry::Capacity)
         return false;
-    Dialogs_.ShowMessage(
-        {QStringLiteral("No se pueden abrir más de 1000 documentos a la vez."),
-         QStringLiteral("Error"), MessageIcon::Critical, MessageButtons::Ok});
+    Dialogs_.ShowMessage({QStringLiteral("No se pueden abrir más de 1000 documentos a la vez."),
+                          QStringLiteral("Error"), MessageIcon::Critical, MessageButtons::Ok});
     return true;
 }
 
@@ -115,14 +114,16 @@ void DocumentCommands::AddSelectedTab() {
     Tabs_.SelectTab(position);
 }
 
-/// Compilers that run through Wine name a file in its Windows form; the document shows the system's
-/// own form of the same path, so both forms are compared. 0 when no document shows the file.
+/// Compilers that run through Wine name a file in its Windows form, so documents are compared in
+/// the form that the system opens, too. 0 when no document shows the file.
 int DocumentCommands::FindDocument(const QString &path) const {
     const QString asGiven = path.toUpper();
     const QString asOpened = SystemPath(path).toUpper();
     for (int position = 1; position <= Registry_.DocumentCount; ++position) {
-        const QString caption = Registry_.Documents[position].Window->Caption().toUpper();
-        if (caption == asGiven || caption == asOpened)
+        const QString caption = Registry_.Documents[position].Window->Caption();
+        if (caption.toUpper() == asGiven || caption.toUpper() == asOpened)
+            return position;
+        if (caption.contains(u'\\') && SystemPath(caption).toUpper() == asOpened)
             return position;
     }
     return 0;
@@ -138,14 +139,29 @@ bool DocumentCommands::ActivateOpenDocument(const QString &path) {
 }
 
 void DocumentCommands::LoadDocument(const QString &path) {
+    const int previous = Registry_.CurrentIndex;
     Document &document = AddDocument();
-    document.Window->Editor().OpenFile(path);
+    if (!document.Window->Editor().OpenFile(path))
+        return TakeBackDocument(previous);
     const FileNameParts parts = SplitFileName(path);
     document.FileName = parts.FileName;
     document.Directory = parts.Directory;
     document.Window->SetCaption(path);
     document.Window->Show();
     AddSelectedTab();
+}
+
+/// A document without its file's text must not stay under the file's name: the next run would save
+/// it there.
+void DocumentCommands::TakeBackDocument(int previous) {
+    Document &document = Registry_.Current();
+    document.Window->Close();
+    document.Window = nullptr;
+    --Registry_.DocumentCount;
+    Registry_.CurrentIndex = previous;
+    CommandState_.UpdateCommandState(previous > 0);
+    if (Registry_.DocumentCount > 0)
+        CommandState_.EnableWindowMenu();
 }
 
 void DocumentCommands::ShowModified(Document &document) {

@@ -42,8 +42,12 @@ void EditorView::Form_Load() {
 
 void EditorView::Form_Paint() { Parts_.Scanner.ScanUnlessPending(); }
 
-void EditorView::txtCode_Change() {
+void EditorView::txtCode_ModifiedChanged() {
     Window_.EnablePanel(StatusPanel::Modified, Window_.Editor().IsModified());
+}
+
+void EditorView::txtCode_Change() {
+    txtCode_ModifiedChanged();
     Parts_.Scanner.ScanAfterChange();
 }
 

@@ -30,6 +30,8 @@ class EditorView {
     /// The window came into view or was uncovered.
     void Form_Paint();
     void txtCode_Change();
+    /// The text became modified or, by saving or undoing, unmodified.
+    void txtCode_ModifiedChanged();
     void txtCode_KeyDown();
     /// `keyCode`: Enter 13, Backspace 8, Delete 46; other keys have other numbers.
     void txtCode_KeyUp(int keyCode);

@@ -24,6 +24,8 @@ struct PanelDesign {
 constexpr PanelDesign Panels[] = {{"", 0},      {"Modificado", 12}, {"1 :1", 14}, {"Blitz3D", 9},
                                   {"ANSI", 7},  {"", 0},            {"", 0},      {"", 0}};
 
+constexpr int PanelIndent = 6;
+
 int PixelsOfTwips(int twips, int dotsPerInch) { return twips * dotsPerInch / 1440; }
 
 /// A child window's own menu would claim Ctrl+W, too, and a shortcut with two owners does nothing.
@@ -110,6 +112,7 @@ void frmDoc::BuildStatusBar() {
         auto *panel = new QLabel(QString::fromUtf8(Panels[index].Text));
         panel->setObjectName(QStringLiteral("stbBarraEstado_Panel%1").arg(index + 1));
         panel->setTextFormat(Qt::PlainText);
+        panel->setIndent(PanelIndent);
         panel->setMinimumWidth(Panels[index].Characters * characterWidth);
         stbBarraEstado->addWidget(panel, index == 0 ? 1 : 0);
         panel->setHidden(index > 0 && Panels[index].Characters == 0);
@@ -124,7 +127,7 @@ void frmDoc::ConnectEditor() {
                 [this, handler] { Parts_.Boundary.Run([&] { (View_.*handler)(); }); });
     };
     forward(&ScintillaEditor::TextChanged, &EditorView::txtCode_Change);
-    forward(&ScintillaEditor::ModifiedChanged, &EditorView::txtCode_Change);
+    forward(&ScintillaEditor::ModifiedChanged, &EditorView::txtCode_ModifiedChanged);
     forward(&ScintillaEditor::KeyDown, &EditorView::txtCode_KeyDown);
     forward(&ScintillaEditor::MouseReleased, &EditorView::txtCode_MouseUp);
     forward(&ScintillaEditor::ContextMenuRequested, &EditorView::txtCode_RClick);

@@ -8,7 +8,7 @@ namespace Quillbox {
 /// The separator of this system's paths: "\" on Windows, "/" on Linux.
 extern const QChar PathSeparator;
 
-/// What ends a line in a new text and in files written for the compilers' tools.
+/// What ends a line in a new text.
 extern const char *const LineEnd;
 
 /// The path that the system opens for a path as it was stored or typed. On Linux a path that does

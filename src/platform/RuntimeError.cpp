@@ -9,6 +9,8 @@ RuntimeError InvalidArgument() {
 
 RuntimeError Overflow() { return {6, QStringLiteral("Desbordamiento")}; }
 
+RuntimeError OutOfMemory() { return {7, QStringLiteral("Memoria insuficiente")}; }
+
 RuntimeError SubscriptOutOfRange() {
     return {9, QStringLiteral("Subíndice fuera del intervalo")};
 }

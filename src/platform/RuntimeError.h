@@ -17,6 +17,8 @@ struct RuntimeError {
 RuntimeError InvalidArgument();
 /// 6: a number outside the range of its field.
 RuntimeError Overflow();
+/// 7: no memory is left for what was asked.
+RuntimeError OutOfMemory();
 /// 9: an index outside a fixed table.
 RuntimeError SubscriptOutOfRange();
 /// 53: a program or file that is not there.

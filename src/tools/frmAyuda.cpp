@@ -14,17 +14,27 @@
 namespace Quillbox {
 namespace {
 
-QString MissingPage(const QString &page) {
+QString MissingPageText(const QString &page) {
     return QStringLiteral("<h2>No se encuentra la página</h2><p>La página de ayuda <b>%1</b> no "
                           "existe o no se puede leer.</p>")
         .arg(page.toHtmlEscaped());
 }
 
+/// Shows a page that is not there as one that says so: it is part of the history like any other.
+class HelpBrowser final : public QTextBrowser {
+  public:
+    QVariant loadResource(int type, const QUrl &url) override {
+        if (type == QTextDocument::HtmlResource && !QFileInfo(url.toLocalFile()).isFile())
+            return MissingPageText(url.toLocalFile());
+        return QTextBrowser::loadResource(type, url);
+    }
+};
+
 } // namespace
 
 frmAyuda::frmAyuda(DocumentArea &area)
     : Area_(area)
-    , htmlAyuda(new QTextBrowser) {
+    , htmlAyuda(new HelpBrowser) {
     setObjectName(QStringLiteral("frmAyuda"));
     setWindowTitle(QStringLiteral("Ayuda"));
     htmlAyuda->setObjectName(QStringLiteral("htmlAyuda"));
@@ -34,6 +44,7 @@ frmAyuda::frmAyuda(DocumentArea &area)
     statusBar->setObjectName(QStringLiteral("stbBarraEstado"));
     statusBar->setSizeGripEnabled(false);
     auto *panel = new QLabel(QStringLiteral("Ayuda de Quillbox"));
+    panel->setIndent(6);
     panel->setObjectName(QStringLiteral("stbBarraEstado_Panel1"));
     statusBar->addWidget(panel, 1);
 
@@ -56,11 +67,7 @@ void frmAyuda::Show() {
 }
 
 void frmAyuda::Navigate(const QString &page) {
-    const QString path = SystemPath(page);
-    if (QFileInfo(path).isFile())
-        htmlAyuda->setSource(QUrl::fromLocalFile(path));
-    else
-        htmlAyuda->setHtml(MissingPage(page));
+    htmlAyuda->setSource(QUrl::fromLocalFile(SystemPath(page)), QTextDocument::HtmlResource);
 }
 
 void frmAyuda::GoBack() { htmlAyuda->backward(); }

@@ -114,7 +114,7 @@ TEST_F(StructureCheckerProgram, ExplainsItsArgumentsOnStandardOutput) {
     const Answer answer = RunChecker({"-o", "juego.exe"});
     EXPECT_EQ(answer.ExitCode, 2);
     EXPECT_EQ(answer.Output,
-              "Uso: StructureChecker [-o EJECUTABLE] PROGRAMA\r\n"
+              "Uso: Checker [-o EJECUTABLE] PROGRAMA\r\n"
               "Comprueba la estructura de un programa de Blitz3D. No es un compilador:\r\n"
               "con -o comprueba lo mismo y no crea ning\xfan ejecutable.\r\n");
     EXPECT_EQ(RunChecker({}).Output, answer.Output);

@@ -181,15 +181,29 @@ TEST_F(OpeningDocuments, ActivatesAnOpenDocumentThatIsChosenAgain) {
     EXPECT_THAT(Log.CallsOf({"editor.OpenFile"}), IsEmpty());
 }
 
-/// The editor tells why; the document stays, empty, under the path that was asked for.
-TEST_F(OpeningDocuments, KeepsADocumentWhoseFileCannotBeRead) {
+/// The editor tells why. A document under the file's name would be saved over the file, empty, as
+/// soon as the file can be reached again.
+TEST_F(OpeningDocuments, LeavesNoDocumentForAFileThatCannotBeRead) {
+    Open({"/j/a.prg"});
+
     Documents.OpenDocument("/j/missing.prg");
 
     EXPECT_EQ(Registry.DocumentCount, 1);
-    EXPECT_EQ(WindowOf(1).Caption(), QString("/j/missing.prg"));
-    EXPECT_EQ(EditorOf(1).Content, QString());
-    EXPECT_EQ(Tabs.Selected, 2);
+    EXPECT_EQ(Registry.CurrentIndex, 1);
+    EXPECT_TRUE(Main.Windows.back()->Closed);
+    EXPECT_EQ(Registry.Documents[2].Window, nullptr);
+    EXPECT_EQ(Tabs.Captions.size(), 2U);
+    EXPECT_TRUE(Main.Enabled["mnuEdicion"]);
     EXPECT_THAT(Log.CallsOf({"dialogs."}), IsEmpty());
+}
+
+TEST_F(OpeningDocuments, StaysOnTheHelpPageWhenTheFirstFileCannotBeRead) {
+    Documents.OpenDocument("/j/missing.prg");
+
+    EXPECT_EQ(Registry.DocumentCount, 0);
+    EXPECT_EQ(Registry.CurrentIndex, 0);
+    EXPECT_FALSE(Main.Enabled["mnuEdicion"]);
+    EXPECT_FALSE(Main.Enabled["mnuVentana"]);
 }
 
 TEST_F(OpeningDocuments, SplitsAPathWithoutAFolder) {

@@ -72,17 +72,17 @@ TEST_F(StrangeFiles, WithoutAnyByteStayEmpty) {
     EXPECT_EQ(BytesOf(Game_), "");
 }
 
-TEST_F(StrangeFiles, ThatNobodyMayReadGiveAMessageAndAnEmptyDocument) {
-    const QString folder = PersonsFile(QStringLiteral("carpeta.prg"));
-    UseCompiler("printf 'Error in file " + folder.toLatin1() + " at line 1:no\\r\\n'\n");
+TEST_F(StrangeFiles, ThatAreMissingGiveAMessageAndNoDocument) {
+    const QString missing = PersonsFile(QStringLiteral("falta.prg"));
+    UseCompiler("printf 'Error in file " + missing.toLatin1() + " at line 1:no\\r\\n'\n");
     ASSERT_TRUE(OpenFile("Cls"));
     ASSERT_TRUE(Press({QStringLiteral("F7")}));
     EXPECT_EQ(
         Person_.ReadMessage(ErrorTitle),
-        QStringLiteral("No se ha podido abrir el archivo %1.\nEl archivo no existe.").arg(folder));
+        QStringLiteral("No se ha podido abrir el archivo %1.\nEl archivo no existe.").arg(missing));
     ASSERT_TRUE(Person_.PressIn(ErrorTitle, {QStringLiteral("Return")}));
     ASSERT_TRUE(Person_.PressIn(NoticeTitle, {QStringLiteral("Return")}));
-    EXPECT_TRUE(ClosesAtOnce(folder));
+    EXPECT_FALSE(Person_.IsWindowThere(missing));
     EXPECT_TRUE(Leaves());
 }
 

@@ -15,7 +15,10 @@ namespace {
 
 class FindAndReplace : public EditorTest {
   protected:
-    FindAndReplace() { Window.setCentralWidget(Editor.release()); }
+    FindAndReplace() {
+        Window.setCentralWidget(Editor.release());
+        Window.show();
+    }
 
     ScintillaEditor &Code() const {
         return *static_cast<ScintillaEditor *>(Window.centralWidget());
@@ -203,6 +206,7 @@ TEST_F(FindAndReplace, WorksOnTheEditorThatHadTheKeyboardLast) {
     LoadCode("uno");
     Look("uno");
     const auto other = NewEditor();
+    other->show();
     ASSERT_TRUE(other->OpenFile(Write("b.bb", "x uno")));
     QFocusEvent focus(QEvent::FocusIn);
     QCoreApplication::sendEvent(other.get(), &focus);
@@ -214,7 +218,16 @@ TEST_F(FindAndReplace, SaysWhenItsEditorIsGone) {
     Look("uno");
     delete Window.takeCentralWidget();
     Click("cmdSiguiente");
-    EXPECT_EQ(Result(), "No hay ningún documento abierto.");
+    EXPECT_EQ(Result(), "No hay ningún documento a la vista.");
+}
+
+TEST_F(FindAndReplace, LeavesADocumentAloneThatNobodySees) {
+    LoadCode("uno");
+    Look("uno");
+    Code().hide();
+    Click("cmdReemplazarTodo");
+    EXPECT_EQ(Result(), "No hay ningún documento a la vista.");
+    EXPECT_FALSE(Code().IsModified());
 }
 
 TEST_F(FindAndReplace, NeedsATermForItsButtons) {

@@ -38,6 +38,15 @@ TEST_F(HelpPageTest, SaysWhichPageIsMissing) {
     EXPECT_TRUE(Browser()->toPlainText().contains(PathOf(QStringLiteral("Ayuda/index.htm"))));
 }
 
+TEST_F(HelpPageTest, LeadsBackFromAPageThatIsMissing) {
+    Start();
+    Program_->Options().HelpPath = PathOf(QStringLiteral("Ayuda/falta.htm"));
+    Trigger(QStringLiteral("tbEstandar_Inicio"));
+    ASSERT_TRUE(Browser()->toPlainText().contains(QStringLiteral("falta.htm")));
+    Trigger(QStringLiteral("tbEstandar_Atrás"));
+    EXPECT_TRUE(Browser()->toPlainText().startsWith(QStringLiteral("Inicio")));
+}
+
 TEST_F(HelpPageTest, EnablesBackAndForwardWithTheHistory) {
     Start();
     EXPECT_FALSE(IsButtonEnabled(QStringLiteral("Atrás")));

@@ -130,6 +130,20 @@ TEST_F(MainWindowTest, FollowsAChildThatThePersonActivatesByItsFrame) {
     EXPECT_EQ(Find<QTabBar>(QStringLiteral("tabDocuments"))->currentIndex(), 1);
 }
 
+TEST_F(MainWindowTest, ClosesDocumentsAndExitsWhileTheWindowsAreRestored) {
+    for (int count = 0; count < 3; ++count)
+        Trigger(QStringLiteral("mnuArchivo_Nuevo"));
+    WindowOf(3)->showNormal();
+    Settle();
+    Trigger(QStringLiteral("mnuArchivo_Cerrar"));
+    EXPECT_EQ(Registry().DocumentCount, 2);
+    EXPECT_EQ(Registry().CurrentIndex, 2);
+    WindowOf(2)->showNormal();
+    Settle();
+    EXPECT_TRUE(Main().close());
+    EXPECT_TRUE(Questions.Messages.empty());
+}
+
 TEST_F(MainWindowTest, AsksTheMenusQuestionWhenAChildIsClosedByItsBox) {
     Trigger(QStringLiteral("mnuArchivo_Nuevo"));
     QTest::keyClicks(EditorOf(1), QStringLiteral("x"));

@@ -4,6 +4,8 @@
 #include "platform/Dialogs.h"
 #include "platform/RuntimeError.h"
 
+#include <new>
+
 namespace Quillbox {
 
 EventBoundary::EventBoundary(Dialogs &dialogs)
@@ -13,9 +15,14 @@ void EventBoundary::Run(const std::function<void()> &action) const {
     try {
         action();
     } catch (const RuntimeError &error) {
-        Dialogs_.ShowMessage(
-            {ErrorMessage(error), QStringLiteral("Quillbox"), MessageIcon::Critical});
+        Report(error);
+    } catch (const std::bad_alloc &) {
+        Report(OutOfMemory());
     }
+}
+
+void EventBoundary::Report(const RuntimeError &error) const {
+    Dialogs_.ShowMessage({ErrorMessage(error), QStringLiteral("Quillbox"), MessageIcon::Critical});
 }
 
 } // namespace Quillbox

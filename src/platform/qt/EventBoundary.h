@@ -6,9 +6,10 @@
 namespace Quillbox {
 
 class Dialogs;
+struct RuntimeError;
 
-/// Where every action of a person enters the program. A run-time error ends the action here and is
-/// shown; the program goes on.
+/// Where every action of a person enters the program. A run-time error, or memory that runs out,
+/// ends the action here and is shown; the program goes on.
 class EventBoundary {
   public:
     explicit EventBoundary(Dialogs &dialogs);
@@ -16,6 +17,8 @@ class EventBoundary {
     void Run(const std::function<void()> &action) const;
 
   private:
+    void Report(const RuntimeError &error) const;
+
     Dialogs &Dialogs_;
 };
 

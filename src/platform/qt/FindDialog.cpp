@@ -118,11 +118,12 @@ void FindDialog::ShowResult(const QString &text) { Result_->setText(text); }
 bool FindDialog::ReadFields() {
     State_.Request = {Term_->text(), MatchCase_->isChecked(), WholeWord_->isChecked()};
     State_.Replacement = Replacement_->text();
-    if (!State_.Editor)
-        ShowResult(tr("No hay ningún documento abierto."));
-    else
+    const bool showsDocument = State_.Editor && State_.Editor->isVisible();
+    if (showsDocument)
         Result_->clear();
-    return State_.Editor && !State_.Request.Term.isEmpty();
+    else
+        ShowResult(tr("No hay ningún documento a la vista."));
+    return showsDocument && !State_.Request.Term.isEmpty();
 }
 
 void FindDialog::Find(FindDirection direction) {

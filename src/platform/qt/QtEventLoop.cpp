@@ -13,7 +13,12 @@ void QtEventLoop::ProcessWindowEvents() {
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
-void QtEventLoop::Yield() { QThread::yieldCurrentThread(); }
+void QtEventLoop::Yield() {
+    if (SinceYield_.isValid() && SinceYield_.elapsed() < 1)
+        return;
+    QThread::yieldCurrentThread();
+    SinceYield_.start();
+}
 
 bool QtEventLoop::IsCtrlDown() {
     return QGuiApplication::queryKeyboardModifiers().testFlag(Qt::ControlModifier);

@@ -138,6 +138,7 @@ void ScintillaEditor::Perform(const std::function<void()> &action) {
 }
 
 void ScintillaEditor::TellChanges() {
+    WillTellChanges_ = false;
     if (ActionDepth_ > 0)
         return;
     const bool textChanged = std::exchange(TextHasChanged_, false);
@@ -156,7 +157,7 @@ void ScintillaEditor::TellChanges() {
 /// The editing component must not be asked for changes while it reports one, and listeners do that.
 /// Where no action of this class is under way, they are told as soon as the component is done.
 void ScintillaEditor::TellChangesSoon() {
-    if (ActionDepth_ == 0)
+    if (ActionDepth_ == 0 && !std::exchange(WillTellChanges_, true))
         QMetaObject::invokeMethod(this, &ScintillaEditor::TellChanges, Qt::QueuedConnection);
 }
 

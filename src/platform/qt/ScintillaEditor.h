@@ -128,6 +128,7 @@ class ScintillaEditor final : public QsciScintillaBase, public EditorControl {
     mutable ScintillaColouring Colouring_; ///< asking for a token's class colours its line
     QString Language_;
     int ActionDepth_ = 0;
+    bool WillTellChanges_ = false;
     bool TextHasChanged_ = false;
     bool LinesHaveChanged_ = false;
     bool KnownModified_ = false;

@@ -10,6 +10,7 @@
 #include <QStandardPaths>
 
 #include <algorithm>
+#include <new>
 
 namespace Quillbox {
 
@@ -34,7 +35,8 @@ ShownText Remember(const ScintillaText &text) {
             text.Send(Sci::SCI_GETXOFFSET)};
 }
 
-/// Fills a new text while the one shown before is kept aside until the file is known to be read.
+/// Fills a new text while the one shown before is kept aside; it comes back unless the file was
+/// read to its end. Memory that runs out is std::bad_alloc.
 class Loading {
   public:
     Loading(const ScintillaText &text, const std::function<void()> &setUp)
@@ -46,6 +48,8 @@ class Loading {
         Text_.Send(Sci::SCI_SETMODEVENTMASK, 0);
     }
     ~Loading() {
+        if (!Finished_)
+            GoBack();
         Text_.Send(Sci::SCI_SETMODEVENTMASK, EventMask_);
         Text_.Send(Sci::SCI_RELEASEDOCUMENT, 0, Before_.Document);
     }
@@ -58,10 +62,15 @@ class Loading {
         AppendAnsiAsUtf8(ansi, Utf8_);
         Text_.Send(Sci::SCI_APPENDTEXT, static_cast<std::intptr_t>(Utf8_.size()),
                    reinterpret_cast<std::intptr_t>(Utf8_.data()));
+        if (Text_.Send(Sci::SCI_GETSTATUS) != Sci::SC_STATUS_OK) {
+            Text_.Send(Sci::SCI_SETSTATUS, Sci::SC_STATUS_OK);
+            throw std::bad_alloc(); // the component has kept only a part
+        }
     }
 
     void Finish() {
         Start(0);
+        Finished_ = true;
         Text_.Send(Sci::SCI_SETUNDOCOLLECTION, 1);
         Text_.Send(Sci::SCI_EMPTYUNDOBUFFER);
         Text_.Send(Sci::SCI_SETSAVEPOINT);
@@ -71,6 +80,7 @@ class Loading {
         Text_.Send(Sci::SCI_SETFIRSTVISIBLELINE, 0);
     }
 
+  private:
     void GoBack() {
         if (!Started_)
             return;
@@ -80,7 +90,6 @@ class Loading {
         Text_.Send(Sci::SCI_SETXOFFSET, Before_.LeftOffset);
     }
 
-  private:
     void Start(std::size_t fileSize) {
         if (std::exchange(Started_, true))
             return;
@@ -109,6 +118,7 @@ class Loading {
     std::intptr_t EventMask_;
     std::string Utf8_;
     bool Started_ = false;
+    bool Finished_ = false;
 };
 
 /// The first place from `position` on where a character starts or the text ends.
@@ -142,9 +152,7 @@ std::optional<FileError> LoadAnsiFile(const ScintillaText &text, const QString &
         ReadFileBytes(SystemPath(path), [&](std::string_view piece, std::size_t fileSize) {
             loading.Append(piece, fileSize);
         });
-    if (error)
-        loading.GoBack();
-    else
+    if (!error)
         loading.Finish();
     return error;
 }
