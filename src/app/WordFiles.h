@@ -5,7 +5,6 @@
 #include "platform/FixedTable.h"
 
 #include <QString>
-#include <QStringList>
 
 namespace Quillbox {
 
@@ -22,13 +21,6 @@ struct LanguageWords {
     QString KeywordListText; ///< every keyword in upper case, each preceded by a line feed
     Quillbox::LanguageDefinition LanguageDefinition;
 };
-
-/// The items of a text in free format: an item ends at a comma or a line end, leading blanks are
-/// skipped, and an item in double quotes may hold commas and loses its quotes.
-QStringList FreeFormatItems(const QString &text);
-
-/// The lines of a text, whole. A line end at the very end begins no further line.
-QStringList WholeLines(const QString &text);
 
 /// Sets the fixed colouring rules.
 void SetLanguageRules(LanguageDefinition &language);

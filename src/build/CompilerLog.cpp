@@ -2,7 +2,6 @@
 #include "build/CompilerLog.h"
 
 #include "app/Numbers.h"
-#include "app/WordFiles.h"
 #include "documents/DocumentCommands.h"
 #include "documents/DocumentRegistry.h"
 #include "platform/AnsiText.h"
@@ -12,6 +11,7 @@
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
+#include "platform/TextItems.h"
 
 #include <algorithm>
 #include <limits>

@@ -25,14 +25,4 @@ struct LanguageDefinition {
     bool operator==(const LanguageDefinition &) const = default;
 };
 
-/// The editor control's global object: registered languages by name.
-class LanguageRegistration {
-  public:
-    virtual ~LanguageRegistration() = default;
-
-    /// Registers `language` under `name`, or again; every editor that has chosen the name follows.
-    /// An unchanged definition costs nothing.
-    virtual void RegisterLanguage(const QString &name, const LanguageDefinition &language) = 0;
-};
-
 } // namespace Quillbox

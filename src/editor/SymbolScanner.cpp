@@ -9,6 +9,7 @@
 #include "platform/DocumentWindow.h"
 #include "platform/EditorControl.h"
 #include "platform/EventLoop.h"
+#include "platform/LanguageRegistration.h"
 #include "platform/MainWindow.h"
 
 #include <algorithm>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/WordFiles.h"
+#include "platform/TextItems.h"
 
 #include "fakes/CallLog.h"
 

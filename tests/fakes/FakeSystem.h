@@ -7,6 +7,7 @@
 #include "platform/Dialogs.h"
 #include "platform/EventLoop.h"
 #include "platform/Files.h"
+#include "platform/LanguageRegistration.h"
 #include "platform/PrivateProfile.h"
 #include "platform/Programs.h"
 #include "platform/RuntimeError.h"

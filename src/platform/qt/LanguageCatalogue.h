@@ -3,6 +3,7 @@
 
 #include "editor/ColouringRules.h"
 #include "editor/LanguageDefinition.h"
+#include "platform/LanguageRegistration.h"
 
 #include <QHash>
 #include <QObject>
