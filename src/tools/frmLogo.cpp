@@ -50,6 +50,7 @@ frmLogo::frmLogo(std::function<void()> showMainWindow, EventLoop &eventLoop)
             QFont(QStringLiteral("Tahoma"), 22, QFont::Bold));
     AddText(this, QStringLiteral("lblCredit"), CreditArea, CreditLine, font());
     tmrTimer.setObjectName(QStringLiteral("tmrTimer"));
+    tmrTimer.setTimerType(Qt::PreciseTimer); // the others may tick up to a twentieth early
     tmrTimer.setInterval(SplashMilliseconds);
     connect(&tmrTimer, &QTimer::timeout, this, [this] {
         Splash_.tmrTimer_Timer();
