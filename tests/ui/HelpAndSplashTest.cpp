@@ -71,9 +71,9 @@ TEST_F(HelpPageTest, ShowsTheHelpPathOnTheHomeButtonAndComesForward) {
 TEST(SplashWindow, HandsOverAfterOneIntervalAndGoesAfterTheNext) {
     QtEventLoop events;
     QElapsedTimer clock;
+    clock.start();
     qint64 shownAfter = -1;
     frmLogo splash([&] { shownAfter = clock.elapsed(); }, events);
-    clock.start();
     splash.show();
     QTest::qWait(SplashMilliseconds / 2);
     EXPECT_EQ(shownAfter, -1);
