@@ -18,24 +18,47 @@ namespace Quillbox::Bench {
 namespace {
 
 constexpr int Steps = 100;
+constexpr std::size_t SmallFile = 2000;
 constexpr Goal OneFrame{Goal::Direction::AtMost, 16.0};
 constexpr Goal Fluid{Goal::Direction::AtMost, 50.0};
 constexpr Goal Memory{Goal::Direction::AtMost, 1000.0};
 
-/// Chooses a new small file each time and answers every question with its default.
+/// Chooses one of its files after another and answers every question with its default.
 class FileQueue final : public Dialogs {
   public:
-    MessageAnswer ShowMessage(const Message &) override { return MessageAnswer::Ok; }
-    std::optional<QString> ShowOpen(const FileChooser &) override {
-        return WriteFile(QStringLiteral("d%1.prg").arg(++Number_), SourceText(SmallFile));
+    FileQueue(int count, std::size_t fileSize) {
+        const std::string text = SourceText(fileSize);
+        for (int number = 1; number <= count; ++number)
+            Files_.push_back(WriteFile(QStringLiteral("d%1.prg").arg(number), text));
     }
+
+    MessageAnswer ShowMessage(const Message &) override { return MessageAnswer::Ok; }
+    std::optional<QString> ShowOpen(const FileChooser &) override { return Files_.at(Next_++); }
     std::optional<QString> ShowSave(const FileChooser &) override { return std::nullopt; }
 
   private:
-    static constexpr std::size_t SmallFile = 2000;
-
-    int Number_ = 0;
+    std::vector<QString> Files_;
+    std::size_t Next_ = 0;
 };
+
+/// The whole program in a folder of its own.
+struct RealProgram {
+    RealProgram(int files, std::size_t fileSize)
+        : Dialogs(files, fileSize) {
+        Whole.Start();
+    }
+
+    QTemporaryDir Folder;
+    SystemFiles Files;
+    ProfileFiles Profile;
+    SystemConsoleProcess Console;
+    SystemPrograms Programs;
+    FileQueue Dialogs;
+    QtEventLoop Events;
+    Program Whole{{Folder.path() + u'/', Files, Profile, Console, Programs, Dialogs, Events}};
+};
+
+const QString OpenCommand = QStringLiteral("mnuArchivo_Abrir");
 
 /// Milliseconds that one of `Steps` runs of a menu item takes, with everything that it shows.
 double MillisecondsOf(frmMain &window, const QString &command, int steps) {
@@ -52,26 +75,27 @@ double MillisecondsOf(frmMain &window, const QString &command, int steps) {
 } // namespace
 
 void MeasureDocuments() {
-    const QTemporaryDir folder;
-    SystemFiles files;
-    ProfileFiles profile;
-    SystemConsoleProcess console;
-    SystemPrograms programs;
-    FileQueue dialogs;
-    QtEventLoop events;
-    Program program({folder.path() + u'/', files, profile, console, programs, dialogs, events});
-    program.Start();
-
-    const QString open = QStringLiteral("mnuArchivo_Abrir");
+    RealProgram real(DocumentRegistry::Capacity, SmallFile);
+    Program &program = real.Whole;
     const QString previous = QStringLiteral("mnuVentana_Anterior");
     const double before = ResidentBytes();
-    MillisecondsOf(program.Main(), open, DocumentRegistry::Capacity - Steps);
+    MillisecondsOf(program.Main(), OpenCommand, DocumentRegistry::Capacity - Steps);
     Print("Opening one of the last 100 of 1000 documents",
-          MillisecondsOf(program.Main(), open, Steps), "ms", Fluid);
+          MillisecondsOf(program.Main(), OpenCommand, Steps), "ms", Fluid);
     Print("Going to another of 1000 documents", MillisecondsOf(program.Main(), previous, Steps),
           "ms", OneFrame);
     Print("Memory for each of 1000 documents",
           (ResidentBytes() - before) / DocumentRegistry::Capacity / 1000, "KB", Memory);
+}
+
+/// With the scans for functions and types that the program makes when it opens a file.
+void MeasureOpeningInTheProgram(double reading) {
+    RealProgram real(1, LargeText);
+    Print({"Opening 100 MB of source in the whole program, against reading the file",
+           MillisecondsOf(real.Whole.Main(), OpenCommand, 1) / 1000,
+           reading,
+           "s",
+           {Goal::Direction::AtMost, 10}});
 }
 
 } // namespace Quillbox::Bench

@@ -37,6 +37,8 @@ void MeasureLoading() {
            reference,
            "s",
            {Goal::Direction::AtMost, 10}});
+    editor.reset();
+    MeasureOpeningInTheProgram(reference);
 }
 
 } // namespace Quillbox::Bench

@@ -52,6 +52,8 @@ void PrintMemoryOfColouredText();
 void MeasureColouring();
 void MeasureLongLine();
 void MeasureDocuments();
+/// `reading`: seconds that reading the same bytes takes.
+void MeasureOpeningInTheProgram(double reading);
 
 /// What this process holds in memory now.
 double ResidentBytes();

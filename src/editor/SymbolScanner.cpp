@@ -17,8 +17,8 @@
 namespace Quillbox {
 namespace {
 
-const QString FunctionPrefix = QStringLiteral("process");
-const QString TypePrefix = QStringLiteral("type");
+constexpr QLatin1String FunctionPrefix("process");
+constexpr QLatin1String TypePrefix("type");
 
 bool HoldsLine(const SymbolTexts &names, const SymbolTexts &lines, int line) {
     for (int entry = SymbolTexts::FirstIndex; entry <= SymbolTexts::LastIndex; ++entry) {
@@ -78,14 +78,13 @@ bool SymbolScanner::ScanLines() {
     int functions = 0;
     int types = 0;
     for (int line = 0; line < editor.LineCount(); ++line) {
-        const QString text = editor.LineText({line});
-        if (Settings_.ShowFunctions && text.startsWith(FunctionPrefix, Qt::CaseInsensitive)) {
-            if (!RecordFunction(text, line, functions))
+        if (Settings_.ShowFunctions && editor.LineBeginsWith({line}, FunctionPrefix)) {
+            if (!RecordFunction(editor.LineText({line}), line, functions))
                 return false;
             continue;
         }
-        if (Settings_.ShowTypes && text.startsWith(TypePrefix, Qt::CaseInsensitive))
-            RecordType(text, line, types);
+        if (Settings_.ShowTypes && editor.LineBeginsWith({line}, TypePrefix))
+            RecordType(editor.LineText({line}), line, types);
         if (!YieldedWithDocument())
             return false;
     }

@@ -92,6 +92,8 @@ class EditorControl {
     virtual int LineCount() const = 0;
     /// Without its line end.
     virtual QString LineText(LineIndex line) const = 0;
+    /// True when the line begins with `prefix`, ASCII letters of either case; cheaper than its text.
+    virtual bool LineBeginsWith(LineIndex line, QLatin1String prefix) const = 0;
     /// In characters, without the line end.
     virtual int LineLength(LineIndex line) const = 0;
     /// Puts the caret at the start of `line` and brings it into view.

@@ -48,6 +48,9 @@ class FakeEditor : public EditorControl {
 
     int LineCount() const override { return static_cast<int>(Lines().size()); }
     QString LineText(LineIndex line) const override { return Lines().value(line.Value); }
+    bool LineBeginsWith(LineIndex line, QLatin1String prefix) const override {
+        return LineText(line).startsWith(prefix, Qt::CaseInsensitive);
+    }
     int LineLength(LineIndex line) const override {
         return static_cast<int>(LineText(line).size());
     }

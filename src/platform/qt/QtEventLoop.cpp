@@ -14,7 +14,7 @@ void QtEventLoop::ProcessWindowEvents() {
 }
 
 void QtEventLoop::Yield() {
-    if (SinceYield_.isValid() && SinceYield_.elapsed() < 1)
+    if (++Calls_ % 64 != 0 || (SinceYield_.isValid() && SinceYield_.elapsed() < 1))
         return;
     QThread::yieldCurrentThread();
     SinceYield_.start();

@@ -23,6 +23,15 @@ int ScintillaEditor::LineCount() const { return Text_.LineCount(); }
 
 QString ScintillaEditor::LineText(LineIndex line) const { return FromUtf8(Text_.LineBytes(line)); }
 
+/// A line that is shorter differs at its line end at the latest.
+bool ScintillaEditor::LineBeginsWith(LineIndex line, QLatin1String prefix) const {
+    const BytePosition start = Text_.LineStart(line);
+    const std::string_view bytes =
+        Text_.Bytes(start, std::min<BytePosition>(start + prefix.size(), Text_.Length()));
+    return prefix.compare(QLatin1String(bytes.data(), static_cast<qsizetype>(bytes.size())),
+                          Qt::CaseInsensitive) == 0;
+}
+
 int ScintillaEditor::LineLength(LineIndex line) const {
     return Text_.CharactersIn(Text_.LineStart(line), Text_.LineEnd(line));
 }
