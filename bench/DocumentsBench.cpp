@@ -30,6 +30,7 @@ class FileQueue final : public Dialogs {
         return WriteFile(QStringLiteral("d%1.prg").arg(++Number_), SourceText(SmallFile));
     }
     std::optional<QString> ShowSave(const FileChooser &) override { return std::nullopt; }
+    std::optional<QString> ShowInput(const InputBox &) override { return std::nullopt; }
 
   private:
     static constexpr std::size_t SmallFile = 2000;
