@@ -24,6 +24,7 @@ class NoDialogs final : public Dialogs {
     MessageAnswer ShowMessage(const Message &) override { std::abort(); }
     std::optional<QString> ShowOpen(const FileChooser &) override { std::abort(); }
     std::optional<QString> ShowSave(const FileChooser &) override { std::abort(); }
+    std::optional<QString> ShowInput(const InputBox &) override { std::abort(); }
 };
 
 /// What an editor needs around it.

@@ -3,6 +3,7 @@
 
 #include "editor/EditCommands.h"
 #include "platform/EditorControl.h"
+#include "project/frmNewProject.h"
 
 namespace Quillbox {
 
@@ -24,9 +25,16 @@ Program::Program(const Outside &outside)
     , Compiler_(outside.Console, outside.Events, Main_, CompilerLog_)
     , Build_({Registry_, Documents_, Settings_, Compiler_, CompilerLog_, outside.Launcher,
               outside.Dialogs})
+    , NewProject_(Project_, outside.Profile, outside.Dialogs)
+    , ProjectInfo_({Project_, outside.Dialogs, outside.Files, Documents_, Main_, outside.Events})
+    , ToDoList_(Project_, outside.Dialogs)
+    , ProjectCommands_({Project_, Main_, outside.Profile, outside.Files, outside.Dialogs,
+                        Documents_, [this] { ShowNewProject(); }})
     , Toolbar_(Commands_, Registry_, Project_)
-    , ShutDown_{Project_, [] {}, Registry_, Documents_, Store_} {
+    , ShutDown_{Project_, [this] { ProjectCommands_.mnuArchivo_CerrarProyecto_Click(); }, Registry_,
+                Documents_, Store_} {
     FillCommands();
+    FillProjectCommands();
     FillEditCommands();
     FillEvents();
 }
@@ -72,6 +80,28 @@ void Program::FillCommands() {
     add("tbEstandar_Adelante", [this] { Main_.Help().GoForward(); });
 }
 
+void Program::FillProjectCommands() {
+    const auto add = [this](const QString &name, void (ProjectCommands::*command)()) {
+        Commands_[name] = [this, command] { (ProjectCommands_.*command)(); };
+    };
+    add(QStringLiteral("mnuArchivo_NuevoProyecto"),
+        &ProjectCommands::mnuArchivo_NuevoProyecto_Click);
+    add(QStringLiteral("mnuArchivo_AbrirProyecto"),
+        &ProjectCommands::mnuArchivo_AbrirProyecto_Click);
+    add(QStringLiteral("mnuArchivo_GuardarProyecto"),
+        &ProjectCommands::mnuArchivo_GuardarProyecto_Click);
+    add(QStringLiteral("mnuArchivo_GuardarProyectoComo"),
+        &ProjectCommands::mnuArchivo_GuardarProyectoComo_Click);
+    add(QStringLiteral("mnuArchivo_CerrarProyecto"),
+        &ProjectCommands::mnuArchivo_CerrarProyecto_Click);
+    Commands_[QStringLiteral("tbEstandar_InformacionProyecto")] = [this] {
+        ShowModeless(ProjectInfoWindow_, ProjectInfo_);
+    };
+    Commands_[QStringLiteral("tbEstandar_TareasPendientes")] = [this] {
+        ShowModeless(ToDoListWindow_, ToDoList_);
+    };
+}
+
 void Program::FillEditCommands() {
     for (const EditCommand &command : EditCommands())
         Commands_[QString::fromUtf8(command.Name)] = [this, run = command.Run] {
@@ -99,5 +129,18 @@ frmDoc *Program::MakeDocumentWindow(DocumentArea &area) {
 }
 
 EditorControl &Program::CurrentEditor() { return Registry_.Current().Window->Editor(); }
+
+void Program::ShowNewProject() { frmNewProject(NewProject_, Boundary_, &Main_).exec(); }
+
+/// A window that is open already comes forward as it is; a closed one may still wait for its
+/// deletion.
+template <typename Window, typename Rules>
+void Program::ShowModeless(QPointer<Window> &window, Rules &rules) {
+    if (!window || !window->isVisible())
+        window = new Window(rules, Boundary_, &Main_);
+    window->show();
+    window->raise();
+    window->activateWindow();
+}
 
 } // namespace Quillbox

@@ -23,7 +23,15 @@
 #include "platform/qt/EventBoundary.h"
 #include "platform/qt/LanguageCatalogue.h"
 #include "platform/qt/ScintillaSearch.h"
+#include "project/NewProject.h"
 #include "project/Project.h"
+#include "project/ProjectCommands.h"
+#include "project/ProjectInfo.h"
+#include "project/ToDoList.h"
+#include "project/frmProjectInfo.h"
+#include "project/frmToDoList.h"
+
+#include <QPointer>
 
 #include <memory>
 
@@ -59,14 +67,19 @@ class Program {
 
     frmMain &Main() { return Main_; }
     DocumentRegistry &Registry() { return Registry_; }
+    Project &OpenProject() { return Project_; }
     Settings &Options() { return Settings_; }
 
   private:
     void FillCommands();
+    void FillProjectCommands();
     void FillEditCommands();
     void FillEvents();
     frmDoc *MakeDocumentWindow(DocumentArea &area);
     EditorControl &CurrentEditor();
+    void ShowNewProject();
+    template <typename Window, typename Rules>
+    void ShowModeless(QPointer<Window> &window, Rules &rules);
 
     Outside Outside_;
     EventBoundary Boundary_;
@@ -92,6 +105,12 @@ class Program {
     CompilerLog CompilerLog_;
     Compiler Compiler_;
     BuildCommands Build_;
+    NewProject NewProject_;
+    ProjectInfo ProjectInfo_;
+    ToDoList ToDoList_;
+    ProjectCommands ProjectCommands_;
+    QPointer<frmProjectInfo> ProjectInfoWindow_;
+    QPointer<frmToDoList> ToDoListWindow_;
     ToolbarDispatch Toolbar_;
     ShutDown ShutDown_;
 };

@@ -60,6 +60,11 @@ void frmMain::PopUpEditMenu() {
     MenuActions_.value(QStringLiteral("mnuEdicion"))->menu()->popup(QCursor::pos());
 }
 
+void frmMain::Activate() {
+    raise();
+    activateWindow();
+}
+
 void frmMain::RequestClose() { close(); }
 
 void frmMain::closeEvent(QCloseEvent *event) {

@@ -52,6 +52,7 @@ class frmMain final : public QMainWindow, public MainWindow {
     void SetLog(const QString &text) override;
     DocumentWindow &CreateDocumentWindow() override;
     void PopUpEditMenu() override;
+    void Activate() override;
     void RequestClose() override;
 
     /// Disables what has no command yet; to be called when the command table is complete.

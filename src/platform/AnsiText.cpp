@@ -132,6 +132,12 @@ std::size_t Utf8SizeOfAnsi(std::string_view bytes) {
     return size;
 }
 
+QString OneAnsiLine(QString text) {
+    text.replace(QStringLiteral("\r\n"), QStringLiteral(" "));
+    text.replace(u'\r', u' ').replace(u'\n', u' ');
+    return FromAnsi(ToAnsi(text));
+}
+
 void AppendAnsiAsUtf8(std::string_view bytes, std::string &utf8) {
     const auto &characters = Tables().Utf8;
     while (!bytes.empty()) {

@@ -24,6 +24,10 @@ QString FromAnsi(QByteArrayView bytes);
 /// A character that the code page lacks becomes "?".
 QByteArray ToAnsi(QStringView text);
 
+/// `text` as one line of an ANSI file holds it: a character that the code page lacks becomes "?", a
+/// line end a blank.
+QString OneAnsiLine(QString text);
+
 /// For texts held as UTF-8: how many bytes of UTF-8 the ANSI `bytes` need.
 std::size_t Utf8SizeOfAnsi(std::string_view bytes);
 /// Appends; with `Utf8SizeOfAnsi` reserved beforehand nothing is allocated.

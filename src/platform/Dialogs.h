@@ -30,6 +30,12 @@ struct FileChooser {
     QString FileName = {}; ///< proposed name, empty for none
 };
 
+/// A box that asks for one line of text.
+struct InputBox {
+    QString Prompt;
+    QString Title;
+};
+
 /// The questions that the program asks people.
 class Dialogs {
   public:
@@ -40,6 +46,9 @@ class Dialogs {
     /// The chosen full name; empty when the person cancels.
     virtual std::optional<QString> ShowOpen(const FileChooser &chooser) = 0;
     virtual std::optional<QString> ShowSave(const FileChooser &chooser) = 0;
+    /// What the person typed, as a line of an ANSI file holds it (see OneAnsiLine), maybe nothing
+    /// at all; empty when the person cancels.
+    virtual std::optional<QString> ShowInput(const InputBox &box) = 0;
 };
 
 } // namespace Quillbox

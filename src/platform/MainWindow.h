@@ -24,6 +24,8 @@ class MainWindow {
     virtual DocumentWindow &CreateDocumentWindow() = 0;
     /// Shows the Edit menu as a pop-up at the pointer.
     virtual void PopUpEditMenu() = 0;
+    /// Brings the window forward and gives it the keyboard.
+    virtual void Activate() = 0;
     /// Asks the window to close, which runs the closing questions.
     virtual void RequestClose() = 0;
 };

@@ -5,6 +5,10 @@
 
 namespace Quillbox {
 
+QString ProjectCaption(const QString &title) {
+    return QStringLiteral("Quillbox v1.0 - <Proyecto: ") + title + u'>';
+}
+
 void EnableProjectMenus(MainWindow &mainWindow, bool enabled) {
     for (const QString &name : {QStringLiteral("mnuArchivo_GuardarProyecto"),
                                 QStringLiteral("mnuArchivo_GuardarProyectoComo"),

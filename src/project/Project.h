@@ -7,14 +7,28 @@ namespace Quillbox {
 
 class MainWindow;
 
-/// The open project. An empty `File` means that no project is open.
+/// The open project. An empty `File` means that no project is open; the other fields may then still
+/// hold what the last one left.
 struct Project {
-    QString File;
+    QString File; ///< full path of the project file
+    QString Title;
+    QString Author;
+    QString MainSource;   ///< as stored; a relative path counts from the current folder
+    QString OtherSources; ///< packed, see PackOtherSources
+    QString ToDoList;     ///< packed, see PackToDoList
+    /// Something changed since the last saving. Not stored, and only a saving clears it: after
+    /// changes were dropped, the next project is asked about when it closes.
+    bool Modified = false;
 };
 
+/// What the file choosers for projects offer.
+inline const QString ProjectFilter = QStringLiteral("Proyectos de Fenix (*.fp)|*.fp");
+
 /// The main window's caption while no project is open.
-inline const QString NoProjectCaption =
-    QStringLiteral("Quillbox v1.0 - <Proyecto no abierto>");
+inline const QString NoProjectCaption = QStringLiteral("Quillbox v1.0 - <Proyecto no abierto>");
+
+/// The main window's caption while a project is open.
+QString ProjectCaption(const QString &title);
 
 /// Enables or disables the menu items that need an open project.
 void EnableProjectMenus(MainWindow &mainWindow, bool enabled);

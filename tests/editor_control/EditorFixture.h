@@ -27,6 +27,7 @@ class RecordingDialogs final : public Dialogs {
     }
     std::optional<QString> ShowOpen(const FileChooser &) override { return std::nullopt; }
     std::optional<QString> ShowSave(const FileChooser &) override { return std::nullopt; }
+    std::optional<QString> ShowInput(const InputBox &) override { return std::nullopt; }
 
     std::vector<Message> Messages;
 };

@@ -49,6 +49,7 @@ class FakeMainWindow : public MainWindow {
         return *Windows.back();
     }
     void PopUpEditMenu() override { Log_.Add("main.PopUpEditMenu"); }
+    void Activate() override { Log_.Add("main.Activate"); }
     void RequestClose() override { Log_.Add("main.RequestClose"); }
 
   private:

@@ -26,7 +26,9 @@ class FakeDialogs : public Dialogs {
 
     std::deque<MessageAnswer> Answers;
     std::deque<std::optional<QString>> Choices;
+    std::deque<std::optional<QString>> Inputs;
     std::vector<Message> Messages;
+    std::vector<InputBox> InputBoxes;
     std::vector<FileChooser> Choosers;
 
     MessageAnswer ShowMessage(const Message &message) override {
@@ -43,6 +45,11 @@ class FakeDialogs : public Dialogs {
         Log_.Add("dialogs.ShowSave", chooser.Filter);
         Choosers.push_back(chooser);
         return TakeFirst(Choices, std::optional<QString>());
+    }
+    std::optional<QString> ShowInput(const InputBox &box) override {
+        Log_.Add("dialogs.ShowInput", box.Prompt);
+        InputBoxes.push_back(box);
+        return TakeFirst(Inputs, std::optional<QString>());
     }
 
   private:
@@ -96,6 +103,7 @@ class FakeProfile : public PrivateProfile {
     std::map<QString, QString> Values;
     std::vector<KeyValue> Written;
     QString WrittenFile;
+    bool WritesFail = false;
 
     QString ReadString(const QString &section, const QString &key, const QString &defaultValue,
                        int capacity, const QString &file) override {
@@ -106,6 +114,8 @@ class FakeProfile : public PrivateProfile {
     bool WriteStrings(const QString &section, const std::vector<KeyValue> &values,
                       const QString &file) override {
         Log_.Add("profile.WriteStrings", section, file);
+        if (WritesFail)
+            return false;
         Written = values;
         WrittenFile = file;
         return true;

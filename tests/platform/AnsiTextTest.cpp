@@ -165,4 +165,10 @@ TEST(AnsiText, SurvivesRandomUtf8) {
     }
 }
 
+TEST(AnsiText, MakesOneLineOfWhatAFileCanHold) {
+    EXPECT_EQ(OneAnsiLine(QStringLiteral("uno\r\ndos\ntres\rcuatro")),
+              QStringLiteral("uno dos tres cuatro"));
+    EXPECT_EQ(OneAnsiLine(QStringLiteral("ñ€日")), QStringLiteral("ñ€?"));
+}
+
 } // namespace Quillbox

@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFileIconProvider>
+#include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -137,6 +138,26 @@ TEST_F(DialogsTest, NamesFileTypesInSpanish) {
         dialog.reject();
     });
     Questions.ShowOpen({FileChooserFlags::FileMustExist, QStringLiteral("Todo (*)|*")});
+}
+
+TEST_F(DialogsTest, AsksForALineAndReplacesWhatAFileCannotHold) {
+    WhenOpen<QInputDialog>([](QInputDialog &dialog) {
+        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Añadir Tarea"));
+        EXPECT_EQ(dialog.labelText(), QStringLiteral("Descripción:"));
+        auto *box = dialog.findChild<QLineEdit *>();
+        box->insert(QStringLiteral("música\n日"));
+        QTest::keyClick(box, Qt::Key_Return);
+    });
+    EXPECT_EQ(Questions.ShowInput({QStringLiteral("Descripción:"), QStringLiteral("Añadir Tarea")}),
+              QStringLiteral("música ?"));
+}
+
+TEST_F(DialogsTest, TellsAnEmptyLineFromACancelledOne) {
+    const InputBox box{QStringLiteral("Descripción:"), QStringLiteral("Añadir Tarea")};
+    WhenOpen<QInputDialog>([](QInputDialog &dialog) { dialog.accept(); });
+    EXPECT_EQ(Questions.ShowInput(box), QString());
+    WhenOpen<QInputDialog>([](QInputDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    EXPECT_EQ(Questions.ShowInput(box), std::nullopt);
 }
 
 } // namespace

@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/qt/QtDialogs.h"
 
+#include "platform/qt/AnsiLineEdit.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileIconProvider>
 #include <QFileInfo>
+#include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 
 namespace Quillbox {
@@ -85,6 +89,8 @@ std::optional<QString> Choose(QFileDialog &dialog, QString &folder) {
     return QDir::toNativeSeparators(chosen);
 }
 
+constexpr int InputBoxWidth = 460;
+
 } // namespace
 
 MessageAnswer QtDialogs::ShowMessage(const Message &message) {
@@ -112,6 +118,18 @@ std::optional<QString> QtDialogs::ShowSave(const FileChooser &chooser) {
                      chooser.Flags != FileChooserFlags::OverwritePrompt);
     dialog.selectFile(chooser.FileName);
     return Choose(dialog, Folder_);
+}
+
+std::optional<QString> QtDialogs::ShowInput(const InputBox &box) {
+    QInputDialog dialog(QApplication::activeWindow());
+    dialog.setWindowTitle(box.Title);
+    dialog.setLabelText(box.Prompt);
+    dialog.setTextValue(QString()); // makes the text box
+    KeepOneAnsiLine(*dialog.findChild<QLineEdit *>());
+    dialog.resize(InputBoxWidth, dialog.sizeHint().height());
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return dialog.textValue();
 }
 
 } // namespace Quillbox

@@ -13,6 +13,7 @@ class QtDialogs final : public Dialogs {
     MessageAnswer ShowMessage(const Message &message) override;
     std::optional<QString> ShowOpen(const FileChooser &chooser) override;
     std::optional<QString> ShowSave(const FileChooser &chooser) override;
+    std::optional<QString> ShowInput(const InputBox &box) override;
 
   private:
     QString Folder_; ///< where the last chosen file was

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QDialog>
+
+class QGridLayout;
+class QLineEdit;
+class QPushButton;
+
+namespace Quillbox {
+
+class EventBoundary;
+class NewProject;
+
+/// Asks for what a new project needs. Shown until it is closed.
+class frmNewProject final : public QDialog {
+    Q_OBJECT
+  public:
+    frmNewProject(NewProject &rules, const EventBoundary &boundary, QWidget *owner);
+
+  private:
+    void BuildFields();
+    void BuildButtons();
+    QPushButton *AddBrowseButton(const QString &name, const QString &caption, int row);
+    void OnAccept();
+
+    NewProject &Rules_;
+    const EventBoundary &Boundary_;
+    QGridLayout *Grid_;
+    QLineEdit *txtTitle = nullptr;
+    QLineEdit *txtAuthor = nullptr;
+    QLineEdit *txtMainSource = nullptr;
+    QLineEdit *txtTarget = nullptr;
+};
+
+} // namespace Quillbox

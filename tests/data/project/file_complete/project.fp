@@ -1,0 +1,6 @@
+[Proyecto]
+Titulo=El cañón
+Autor=Eva Núñez
+MainSource=C:\Juegos\m.prg
+OtrosSource=a.bb|b.bb
+ToDoList=una|1|otra|0

@@ -1,0 +1,6 @@
+[Proyecto]
+Titulo=Título nuevo
+Autor=Eva Núñez
+MainSource=C:\Juegos\m.prg
+OtrosSource=a.bb|b.bb
+ToDoList=una|1|otra|0

@@ -1,0 +1,6 @@
+[Proyecto]
+Titulo=Título nuevo
+Autor=Autor desconocido
+MainSource=Main.bb
+OtrosSource=
+ToDoList=

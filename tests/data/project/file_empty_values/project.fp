@@ -1,0 +1,6 @@
+[Proyecto]
+Titulo=
+Autor=
+MainSource=
+OtrosSource=
+ToDoList=

@@ -1,0 +1,6 @@
+[Proyecto]
+Titulo=Título nuevo
+Autor=
+MainSource=
+OtrosSource=
+ToDoList=

@@ -1,0 +1,6 @@
+[Proyecto]
+Titulo=Título nuevo
+Autor=Eva
+MainSource=m.prg
+OtrosSource=
+ToDoList=

@@ -1,0 +1,4 @@
+[Proyecto]
+Titulo="  Juego  "
+Autor='Eva'
+MainSource="a b.prg"

@@ -1,0 +1,2 @@
+[Otro]
+Titulo=No es este
