@@ -17,8 +17,25 @@
 namespace Quillbox {
 namespace {
 
-constexpr QLatin1String FunctionPrefix("process");
-constexpr QLatin1String TypePrefix("type");
+constexpr std::string_view FunctionPrefix = "process";
+constexpr std::string_view TypePrefix = "type";
+
+/// Most lines differ at their first letter. `prefix` is in lower case.
+bool BeginsWith(std::string_view line, std::string_view prefix) {
+    const auto isSame = [](char wanted, char found) {
+        return wanted ==
+               (found >= 'A' && found <= 'Z' ? static_cast<char>(found + ('a' - 'A')) : found);
+    };
+    return line.size() >= prefix.size() &&
+           std::equal(prefix.begin(), prefix.end(), line.begin(), isSame);
+}
+
+QString TextOf(std::string_view utf8) {
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+/// One character behind the prefix, normally a blank, is passed over whatever it is.
+qsizetype NameStart(std::string_view prefix) { return static_cast<qsizetype>(prefix.size()) + 1; }
 
 bool HoldsLine(const SymbolTexts &names, const SymbolTexts &lines, int line) {
     for (int entry = SymbolTexts::FirstIndex; entry <= SymbolTexts::LastIndex; ++entry) {
@@ -74,21 +91,22 @@ void SymbolScanner::ScanAfterChange() {
 
 /// False when the scan was abandoned because the help page became active meanwhile.
 bool SymbolScanner::ScanLines() {
-    const EditorControl &editor = Registry_.Current().Window->Editor();
     int functions = 0;
     int types = 0;
-    for (int line = 0; line < editor.LineCount(); ++line) {
-        if (Settings_.ShowFunctions && editor.LineBeginsWith({line}, FunctionPrefix)) {
-            if (!RecordFunction(editor.LineText({line}), line, functions))
-                return false;
-            continue;
-        }
-        if (Settings_.ShowTypes && editor.LineBeginsWith({line}, TypePrefix))
-            RecordType(editor.LineText({line}), line, types);
-        if (!YieldedWithDocument())
-            return false;
-    }
-    return true;
+    bool completed = true;
+    Registry_.Current().Window->Editor().VisitLines([&](LineIndex line, std::string_view utf8) {
+        completed = ScanLine(line.Value, utf8, functions, types);
+        return completed;
+    });
+    return completed;
+}
+
+bool SymbolScanner::ScanLine(int line, std::string_view utf8, int &functions, int &types) {
+    if (Settings_.ShowFunctions && BeginsWith(utf8, FunctionPrefix))
+        return RecordFunction(TextOf(utf8), line, functions);
+    if (Settings_.ShowTypes && BeginsWith(utf8, TypePrefix))
+        RecordType(TextOf(utf8), line, types);
+    return YieldedWithDocument();
 }
 
 /// The name runs from behind the character after the prefix to "(" or ".", or to the line's end. It
@@ -98,7 +116,7 @@ bool SymbolScanner::RecordFunction(const QString &text, int line, int &count) {
         return true;
     const auto name = [&]() -> QString & { return Registry_.Current().FunctionNames[count]; };
     name().clear();
-    for (qsizetype position = FunctionPrefix.size() + 1; position < text.size(); ++position) {
+    for (qsizetype position = NameStart(FunctionPrefix); position < text.size(); ++position) {
         if (text[position] == u'(' || text[position] == u'.')
             break;
         name() += text[position];
@@ -118,7 +136,7 @@ void SymbolScanner::RecordType(const QString &text, int line, int &count) {
     if (count > SymbolTexts::LastIndex)
         return;
     Document &document = Registry_.Current();
-    document.TypeNames[count] = text.mid(TypePrefix.size() + 1);
+    document.TypeNames[count] = text.mid(NameStart(TypePrefix));
     Lists_.AddItem(NavigationList::Types, document.TypeNames[count]);
     document.TypeLines[count] = QString::number(line);
     ++count;

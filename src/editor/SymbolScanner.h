@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include <string_view>
+
 namespace Quillbox {
 
 class EditorControl;
@@ -20,9 +22,9 @@ struct RegisteredLanguage {
     LanguageRegistration &Registration;
 };
 
-/// Fills the navigation lists and the language's user words from the current document. A declaration
-/// is a line that begins, in its first column and in any letter case, with "process" (functions) or
-/// "type" (types). Labels are never recognised.
+/// Fills the navigation lists and the language's user words from the current document. A
+/// declaration is a line that begins, in its first column and in any letter case, with "process"
+/// (functions) or "type" (types). Labels are never recognised.
 class SymbolScanner {
   public:
     SymbolScanner(DocumentRegistry &registry, const Settings &settings, NavigationLists &lists,
@@ -39,6 +41,7 @@ class SymbolScanner {
 
   private:
     bool ScanLines();
+    bool ScanLine(int line, std::string_view utf8, int &functions, int &types);
     bool RecordFunction(const QString &text, int line, int &count);
     void RecordType(const QString &text, int line, int &count);
     bool YieldedWithDocument();

@@ -64,7 +64,9 @@ QString frmDoc::Caption() const { return windowTitle(); }
 
 void frmDoc::SetCaption(const QString &caption) { setWindowTitle(caption); }
 
-void frmDoc::Show() { Parts_.Area.Show(this); }
+/// Comes into view when its tab is selected, which follows at once. Shown before, it would be painted
+/// and its text scanned in a size that it loses in the next moment.
+void frmDoc::Show() {}
 
 void frmDoc::Activate() {
     Parts_.Area.Activate(this);

@@ -6,6 +6,9 @@
 
 #include <QString>
 
+#include <functional>
+#include <string_view>
+
 namespace Quillbox {
 
 /// Colour slots of the editor control. Each class of text has a foreground and a background slot.
@@ -92,8 +95,11 @@ class EditorControl {
     virtual int LineCount() const = 0;
     /// Without its line end.
     virtual QString LineText(LineIndex line) const = 0;
-    /// True when the line begins with `prefix`, ASCII letters of either case; cheaper than its text.
-    virtual bool LineBeginsWith(LineIndex line, QLatin1String prefix) const = 0;
+    /// A line's bytes in UTF-8 without its line end; false ends the visits.
+    using LineVisitor = std::function<bool(LineIndex line, std::string_view utf8)>;
+    /// Hands over the lines from the first to the last, without a copy. The text must not change
+    /// meanwhile.
+    virtual void VisitLines(const LineVisitor &visit) const = 0;
     /// In characters, without the line end.
     virtual int LineLength(LineIndex line) const = 0;
     /// Puts the caret at the start of `line` and brings it into view.

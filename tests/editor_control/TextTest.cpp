@@ -168,6 +168,29 @@ TEST_F(EditorText, ShowsAQuestionMarkForACharacterThatFilesCannotKeep) {
     EXPECT_EQ(Editor->Text(), QString::fromUtf8("??“”…–?"));
 }
 
+TEST_F(EditorText, HandsOverEachLineAsTheLinesAreCounted) {
+    for (const char *text :
+         {"", "uno", "uno\n", "uno\r\ndos\rtres\n\ncuatro", "\r\r\n\n\r", "a\rb\rc"}) {
+        Load(text);
+        QStringList visited;
+        Editor->VisitLines([&](LineIndex line, std::string_view utf8) {
+            EXPECT_EQ(line.Value, visited.size());
+            visited += QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+            return true;
+        });
+        ASSERT_EQ(visited.size(), Editor->LineCount()) << text;
+        for (int line = 0; line < visited.size(); ++line)
+            EXPECT_EQ(visited[line], Editor->LineText({line})) << text;
+    }
+}
+
+TEST_F(EditorText, EndsTheVisitsWhenToldTo) {
+    Load("uno\ndos\ntres");
+    int visits = 0;
+    Editor->VisitLines([&](LineIndex, std::string_view) { return ++visits < 2; });
+    EXPECT_EQ(visits, 2);
+}
+
 TEST_F(EditorText, KeepsNulCharacters) {
     Editor->ReplaceSel(QString("a") + QChar(0) + "b");
     EXPECT_EQ(Editor->LineLength({0}), 3);

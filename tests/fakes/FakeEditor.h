@@ -48,8 +48,10 @@ class FakeEditor : public EditorControl {
 
     int LineCount() const override { return static_cast<int>(Lines().size()); }
     QString LineText(LineIndex line) const override { return Lines().value(line.Value); }
-    bool LineBeginsWith(LineIndex line, QLatin1String prefix) const override {
-        return LineText(line).startsWith(prefix, Qt::CaseInsensitive);
+    void VisitLines(const LineVisitor &visit) const override {
+        for (int line = 0; line < LineCount(); ++line)
+            if (!visit({line}, LineText({line}).toStdString()))
+                return;
     }
     int LineLength(LineIndex line) const override {
         return static_cast<int>(LineText(line).size());

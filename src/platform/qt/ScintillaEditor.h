@@ -42,7 +42,7 @@ class ScintillaEditor final : public QsciScintillaBase, public EditorControl {
 
     int LineCount() const override;
     QString LineText(LineIndex line) const override;
-    bool LineBeginsWith(LineIndex line, QLatin1String prefix) const override;
+    void VisitLines(const LineVisitor &visit) const override;
     int LineLength(LineIndex line) const override;
     void SetLinePosition(LineIndex line) override;
     QString CurrentWord() const override;

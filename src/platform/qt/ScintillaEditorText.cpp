@@ -23,13 +23,23 @@ int ScintillaEditor::LineCount() const { return Text_.LineCount(); }
 
 QString ScintillaEditor::LineText(LineIndex line) const { return FromUtf8(Text_.LineBytes(line)); }
 
-/// A line that is shorter differs at its line end at the latest.
-bool ScintillaEditor::LineBeginsWith(LineIndex line, QLatin1String prefix) const {
-    const BytePosition start = Text_.LineStart(line);
-    const std::string_view bytes =
-        Text_.Bytes(start, std::min<BytePosition>(start + prefix.size(), Text_.Length()));
-    return prefix.compare(QLatin1String(bytes.data(), static_cast<qsizetype>(bytes.size())),
-                          Qt::CaseInsensitive) == 0;
+void ScintillaEditor::VisitLines(const LineVisitor &visit) const {
+    const std::string_view text = Text_.Bytes(0, Text_.Length());
+    const auto feedFrom = [&](std::size_t start) {
+        return std::min(text.find('\n', start), text.size());
+    };
+    std::size_t feed = feedFrom(0);
+    std::size_t start = 0;
+    for (int line = 0;; ++line) {
+        if (feed <
+            start) // found once for all lines before it: some texts have carriage returns only
+            feed = feedFrom(start);
+        const std::string_view upToFeed = text.substr(start, feed - start);
+        const std::size_t end = start + std::min(upToFeed.find('\r'), upToFeed.size());
+        if (!visit({line}, text.substr(start, end - start)) || end == text.size())
+            return;
+        start = end + (text.substr(end, 2) == "\r\n" ? 2 : 1);
+    }
 }
 
 int ScintillaEditor::LineLength(LineIndex line) const {
