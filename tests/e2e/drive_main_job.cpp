@@ -155,7 +155,7 @@ int main(int argc, char *argv[]) {
     }
     QGuiApplication application(argc, argv);
     const QString pictures = QDir(QString::fromLocal8Bit(argv[2])).absolutePath();
-    const bool done = MainJob(QString::fromLocal8Bit(argv[1]), pictures).Do();
+    const bool done = MainJob(QDir(QString::fromLocal8Bit(argv[1])).absolutePath(), pictures).Do();
     std::printf("Screenshots: %s\n", qPrintable(pictures));
     return done ? 0 : 1;
 }
