@@ -31,8 +31,8 @@ void ScintillaEditor::VisitLines(const LineVisitor &visit) const {
     std::size_t feed = feedFrom(0);
     std::size_t start = 0;
     for (int line = 0;; ++line) {
-        if (feed <
-            start) // found once for all lines before it: some texts have carriage returns only
+        // Found once for all lines before it: some texts have carriage returns only.
+        if (feed < start)
             feed = feedFrom(start);
         const std::string_view upToFeed = text.substr(start, feed - start);
         const std::size_t end = start + std::min(upToFeed.find('\r'), upToFeed.size());
