@@ -36,6 +36,8 @@ class FileQueue final : public Dialogs {
     std::optional<QString> ShowOpen(const FileChooser &) override { return Files_.at(Next_++); }
     std::optional<QString> ShowSave(const FileChooser &) override { return std::nullopt; }
     std::optional<QString> ShowInput(const InputBox &) override { return std::nullopt; }
+    std::optional<Color> ShowColor(Color) override { return std::nullopt; }
+    std::optional<FontChoice> ShowFont(const FontChoice &) override { return std::nullopt; }
 
   private:
     std::vector<QString> Files_;

@@ -25,6 +25,8 @@ class NoDialogs final : public Dialogs {
     std::optional<QString> ShowOpen(const FileChooser &) override { std::abort(); }
     std::optional<QString> ShowSave(const FileChooser &) override { std::abort(); }
     std::optional<QString> ShowInput(const InputBox &) override { std::abort(); }
+    std::optional<Color> ShowColor(Color) override { std::abort(); }
+    std::optional<FontChoice> ShowFont(const FontChoice &) override { std::abort(); }
 };
 
 /// What an editor needs around it.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/Color.h"
+
 #include <QString>
 
 #include <optional>
@@ -28,6 +30,13 @@ struct FileChooser {
     FileChooserFlags Flags;
     QString Filter;        ///< caption, "|", pattern: "Programas de Fenix (*.prg)|*.prg"
     QString FileName = {}; ///< proposed name, empty for none
+    QString Title = {};    ///< empty for the chooser's own
+    QString Folder = {};   ///< where it starts, empty for where the last choice was
+};
+
+struct FontChoice {
+    QString Name;
+    double Size = 0; ///< in points
 };
 
 /// A box that asks for one line of text.
@@ -49,6 +58,10 @@ class Dialogs {
     /// What the person typed, as a line of an ANSI file holds it (see OneAnsiLine), maybe nothing
     /// at all; empty when the person cancels.
     virtual std::optional<QString> ShowInput(const InputBox &box) = 0;
+    /// The chosen colour, where `preset` is offered at first; empty when the person cancels.
+    virtual std::optional<Color> ShowColor(Color preset) = 0;
+    /// The chosen font of those that the screen has; empty when the person cancels.
+    virtual std::optional<FontChoice> ShowFont(const FontChoice &preset) = 0;
 };
 
 } // namespace Quillbox

@@ -28,6 +28,8 @@ class RecordingDialogs final : public Dialogs {
     std::optional<QString> ShowOpen(const FileChooser &) override { return std::nullopt; }
     std::optional<QString> ShowSave(const FileChooser &) override { return std::nullopt; }
     std::optional<QString> ShowInput(const InputBox &) override { return std::nullopt; }
+    std::optional<Color> ShowColor(Color) override { return std::nullopt; }
+    std::optional<FontChoice> ShowFont(const FontChoice &) override { return std::nullopt; }
 
     std::vector<Message> Messages;
 };

@@ -27,6 +27,8 @@ class FakeDialogs : public Dialogs {
     std::deque<MessageAnswer> Answers;
     std::deque<std::optional<QString>> Choices;
     std::deque<std::optional<QString>> Inputs;
+    std::deque<std::optional<Color>> Colors;
+    std::deque<std::optional<FontChoice>> Fonts;
     std::vector<Message> Messages;
     std::vector<InputBox> InputBoxes;
     std::vector<FileChooser> Choosers;
@@ -50,6 +52,14 @@ class FakeDialogs : public Dialogs {
         Log_.Add("dialogs.ShowInput", box.Prompt);
         InputBoxes.push_back(box);
         return TakeFirst(Inputs, std::optional<QString>());
+    }
+    std::optional<Color> ShowColor(Color preset) override {
+        Log_.Add("dialogs.ShowColor", preset.Value);
+        return TakeFirst(Colors, std::optional<Color>());
+    }
+    std::optional<FontChoice> ShowFont(const FontChoice &preset) override {
+        Log_.Add("dialogs.ShowFont", preset.Name, static_cast<int>(preset.Size));
+        return TakeFirst(Fonts, std::optional<FontChoice>());
     }
 
   private:

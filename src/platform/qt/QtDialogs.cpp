@@ -4,10 +4,12 @@
 #include "platform/qt/AnsiLineEdit.h"
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileIconProvider>
 #include <QFileInfo>
+#include <QFontDialog>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -130,6 +132,30 @@ std::optional<QString> QtDialogs::ShowInput(const InputBox &box) {
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     return dialog.textValue();
+}
+
+std::optional<Color> QtDialogs::ShowColor(Color preset) {
+    QColorDialog dialog(QColor(RedOf(preset), GreenOf(preset), BlueOf(preset)),
+                        QApplication::activeWindow());
+    dialog.setWindowTitle(QStringLiteral("Elegir color"));
+    dialog.setOption(QColorDialog::DontUseNativeDialog);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    const QColor chosen = dialog.selectedColor();
+    return RgbColor(chosen.red(), chosen.green(), chosen.blue());
+}
+
+std::optional<FontChoice> QtDialogs::ShowFont(const FontChoice &preset) {
+    QFont font(preset.Name);
+    if (preset.Size > 0)
+        font.setPointSizeF(preset.Size);
+    QFontDialog dialog(font, QApplication::activeWindow());
+    dialog.setWindowTitle(QStringLiteral("Elegir fuente"));
+    dialog.setOption(QFontDialog::DontUseNativeDialog);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    const QFont chosen = dialog.selectedFont();
+    return FontChoice{chosen.family(), chosen.pointSizeF()};
 }
 
 } // namespace Quillbox
