@@ -2,6 +2,7 @@
 #include "Program.h"
 
 #include "editor/EditCommands.h"
+#include "editor/LineCommands.h"
 #include "platform/EditorControl.h"
 #include "project/frmNewProject.h"
 
@@ -21,6 +22,7 @@ Program::Program(const Outside &outside)
                outside.Events)
     , SymbolLists_(Registry_, Main_.Lists())
     , QuickHelp_(Settings_, Words_, Registry_)
+    , ColorInsertion_(outside.Dialogs)
     , CompilerLog_(outside.AppDir, Registry_, Documents_, outside.Files, outside.Dialogs)
     , Compiler_(outside.Console, outside.Events, Main_, CompilerLog_)
     , Build_({Registry_, Documents_, Settings_, Compiler_, CompilerLog_, outside.Launcher,
@@ -107,6 +109,13 @@ void Program::FillEditCommands() {
         Commands_[QString::fromUtf8(command.Name)] = [this, run = command.Run] {
             run(CurrentEditor());
         };
+    Commands_[QStringLiteral("mnuEdicion_AlternarComentarios")] = [this] {
+        ToggleComments(CurrentEditor(), Words_.LanguageDefinition);
+    };
+    Commands_[QStringLiteral("mnuEdicion_InsertarRGB")] = [this] {
+        if (Registry_.CurrentIndex > 0)
+            ColorInsertion_.mnuEdicion_InsertarRGB_Click(CurrentEditor());
+    };
 }
 
 void Program::FillEvents() {

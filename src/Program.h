@@ -15,6 +15,7 @@
 #include "build/CompilerLog.h"
 #include "documents/DocumentCommands.h"
 #include "documents/DocumentRegistry.h"
+#include "editor/ColorInsertion.h"
 #include "editor/EditorView.h"
 #include "editor/QuickHelp.h"
 #include "editor/SymbolLists.h"
@@ -102,6 +103,7 @@ class Program {
     SymbolScanner Scanner_;
     SymbolLists SymbolLists_;
     QuickHelp QuickHelp_;
+    ColorInsertion ColorInsertion_;
     CompilerLog CompilerLog_;
     Compiler Compiler_;
     BuildCommands Build_;

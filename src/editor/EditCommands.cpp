@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/EditCommands.h"
 
+#include "editor/LineCommands.h"
 #include "platform/EditorControl.h"
 
 namespace Quillbox {
@@ -39,6 +40,8 @@ constexpr EditCommand Commands[] = {
     {"mnuEdicion_PrimerBookmark", RunNumbered<EditorCommand::FirstBookmark>},
     {"mnuEdicion_UltimoBookmark", RunNumbered<EditorCommand::LastBookmark>},
     {"mnuEdicion_EliminarTodosBookmarks", RunNumbered<EditorCommand::ClearBookmarks>},
+    {"mnuEdicion_DesplazarDerecha", IndentLines},
+    {"mnuEdicion_DesplazarIzquierda", OutdentLines},
 };
 
 } // namespace

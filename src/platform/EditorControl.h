@@ -147,6 +147,8 @@ class EditorControl {
     virtual void SetCaretPos(TextPosition position) = 0;
     virtual void ExecuteCommand(EditorCommand command) = 0;
     virtual void InsertText(const QString &text, TextPosition position) = 0;
+    /// What `edits` does to the text is undone and told to listeners at once.
+    virtual void AsOneUndoStep(const std::function<void()> &edits) = 0;
     /// Replaces the selection, or inserts at the caret when it is empty.
     virtual void ReplaceSel(const QString &text) = 0;
 };

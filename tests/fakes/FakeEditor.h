@@ -114,6 +114,11 @@ class FakeEditor : public EditorControl {
     void InsertText(const QString &text, TextPosition position) override {
         Log_.Add("editor.InsertText", text, position.Line.Value, position.Column.Value);
     }
+    void AsOneUndoStep(const std::function<void()> &edits) override {
+        Log_.Add("editor.BeginUndoStep");
+        edits();
+        Log_.Add("editor.EndUndoStep");
+    }
     void ReplaceSel(const QString &text) override { Log_.Add("editor.ReplaceSel", text); }
 
   private:

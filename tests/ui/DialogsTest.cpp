@@ -3,6 +3,7 @@
 #include "platform/qt/SpanishInterface.h"
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileIconProvider>
@@ -158,6 +159,20 @@ TEST_F(DialogsTest, TellsAnEmptyLineFromACancelledOne) {
     EXPECT_EQ(Questions.ShowInput(box), QString());
     WhenOpen<QInputDialog>([](QInputDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
     EXPECT_EQ(Questions.ShowInput(box), std::nullopt);
+}
+
+TEST_F(DialogsTest, OffersThePresetColorAndReturnsTheChosenOne) {
+    WhenOpen<QColorDialog>([](QColorDialog &dialog) {
+        EXPECT_EQ(dialog.currentColor(), QColor(1, 2, 3));
+        dialog.setCurrentColor(QColor(255, 128, 0));
+        dialog.accept();
+    });
+    EXPECT_EQ(Questions.ShowColor(RgbColor(1, 2, 3)), RgbColor(255, 128, 0));
+}
+
+TEST_F(DialogsTest, ReturnsNoColorWhenThePersonCancels) {
+    WhenOpen<QColorDialog>([](QColorDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    EXPECT_EQ(Questions.ShowColor(RgbColor(1, 2, 3)), std::nullopt);
 }
 
 } // namespace

@@ -61,7 +61,7 @@ TEST_F(DocumentWindowTest, ShowsTheQuickHelpOfTheKeywordAtTheCaret) {
     EXPECT_EQ(Panel(1)->text(), QStringLiteral("Print texto"));
 }
 
-TEST_F(DocumentWindowTest, SelectsAllWithControlE) {
+TEST_F(DocumentWindowTest, SelectsAllWithControlA) {
     OpenText("uno\r\ndos");
     Press(Qt::Key_A, Qt::ControlModifier);
     const TextRange all{{{0}, {0}}, {{1}, {3}}};

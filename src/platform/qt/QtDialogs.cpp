@@ -63,9 +63,7 @@ MessageAnswer AnswerOf(int button) {
 QString CaptionOf(const QString &filter) { return filter.section(u'|', 0, 0); }
 
 /// The ending that a pattern such as "*.prg" asks for.
-QString SuffixOf(const QString &filter) {
-    return QFileInfo(filter.section(u'|', 1, 1)).suffix();
-}
+QString SuffixOf(const QString &filter) { return QFileInfo(filter.section(u'|', 1, 1)).suffix(); }
 
 /// Names what Qt's Spanish texts leave in English in the column of file types.
 class SpanishFileTypes final : public QFileIconProvider {
@@ -96,8 +94,8 @@ constexpr int InputBoxWidth = 460;
 } // namespace
 
 MessageAnswer QtDialogs::ShowMessage(const Message &message) {
-    QMessageBox box(IconOf(message.Icon), message.Caption, message.Text,
-                    ButtonsOf(message.Buttons), QApplication::activeWindow());
+    QMessageBox box(IconOf(message.Icon), message.Caption, message.Text, ButtonsOf(message.Buttons),
+                    QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
     return AnswerOf(box.exec());
 }
@@ -105,9 +103,8 @@ MessageAnswer QtDialogs::ShowMessage(const Message &message) {
 std::optional<QString> QtDialogs::ShowOpen(const FileChooser &chooser) {
     QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Abrir"));
     dialog.setNameFilter(CaptionOf(chooser.Filter));
-    dialog.setFileMode(chooser.Flags == FileChooserFlags::FileMustExist
-                           ? QFileDialog::ExistingFile
-                           : QFileDialog::AnyFile);
+    dialog.setFileMode(chooser.Flags == FileChooserFlags::FileMustExist ? QFileDialog::ExistingFile
+                                                                        : QFileDialog::AnyFile);
     return Choose(dialog, Folder_);
 }
 

@@ -77,6 +77,7 @@ class ScintillaEditor final : public QsciScintillaBase, public EditorControl {
     void SetCaretPos(TextPosition position) override;
     void ExecuteCommand(EditorCommand command) override;
     void InsertText(const QString &text, TextPosition position) override;
+    void AsOneUndoStep(const std::function<void()> &edits) override;
     void ReplaceSel(const QString &text) override;
 
   signals:

@@ -110,6 +110,13 @@ void ScintillaEditor::InsertText(const QString &text, TextPosition position) {
     });
 }
 
+void ScintillaEditor::AsOneUndoStep(const std::function<void()> &edits) {
+    Perform([&] {
+        const UndoStep step(Text_);
+        edits();
+    });
+}
+
 void ScintillaEditor::ReplaceSel(const QString &text) {
     const QByteArray bytes = EditorBytes(text);
     Perform([&] { ReplaceSelection(ViewOf(bytes)); });
