@@ -34,15 +34,15 @@ double ShortestTime(int runs, const std::function<void()> &action,
 
 void Print(const Figure &figure) {
     const double ratio = figure.Value / figure.Reference;
-    std::printf("%s: %.3f %s, reference %.3f %s, ratio %.2f, goal %s %.1f, %s\n",
-                figure.Name.c_str(), figure.Value, figure.Unit.c_str(), figure.Reference,
-                figure.Unit.c_str(), ratio, Sign(figure.RatioGoal), figure.RatioGoal.Value,
+    std::printf("%s: %.3f %s, reference %.3f %s, ratio %.2f, goal %s %g, %s\n", figure.Name.c_str(),
+                figure.Value, figure.Unit.c_str(), figure.Reference, figure.Unit.c_str(), ratio,
+                Sign(figure.RatioGoal), figure.RatioGoal.Value,
                 IsMet(ratio, figure.RatioGoal) ? "met" : "missed");
     std::fflush(stdout);
 }
 
 void Print(const std::string &name, double value, const std::string &unit, Goal goal) {
-    std::printf("%s: %.2f %s, goal %s %.1f, %s\n", name.c_str(), value, unit.c_str(), Sign(goal),
+    std::printf("%s: %.2f %s, goal %s %g, %s\n", name.c_str(), value, unit.c_str(), Sign(goal),
                 goal.Value, IsMet(value, goal) ? "met" : "missed");
     std::fflush(stdout);
 }
