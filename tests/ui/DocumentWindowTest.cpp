@@ -7,6 +7,20 @@
 namespace Quillbox {
 namespace {
 
+/// Counts the paints of a widget, not those of its children.
+class PaintCounter final : public QObject {
+  public:
+    explicit PaintCounter(QWidget &widget) { widget.installEventFilter(this); }
+
+    int Count = 0;
+
+  private:
+    bool eventFilter(QObject *, QEvent *event) override {
+        Count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+};
+
 class DocumentWindowTest : public UiProgram {
   protected:
     DocumentWindowTest() {
@@ -93,6 +107,23 @@ TEST_F(DocumentWindowTest, RescansWhenEnterAddsALine) {
     ASSERT_EQ(Registry().Documents[1].FunctionLines[0], QStringLiteral("0"));
     Press(Qt::Key_Return);
     EXPECT_EQ(Registry().Documents[1].FunctionLines[0], QStringLiteral("1"));
+}
+
+// Each paint of the window scans its text, and a scan that had the window painted again would never
+// end.
+TEST_F(DocumentWindowTest, ComesToRestAfterAPaintAndItsScan) {
+    OpenText("process Uno()\r\ntype Dos\r\n");
+    PaintCounter paints(*WindowOf(1)->widget());
+    WindowOf(1)->widget()->update();
+    for (int round = 0; round < 30; ++round)
+        Settle();
+    EXPECT_EQ(paints.Count, 1);
+    WindowOf(1)->Editor().SetCaretPos({{0}, {8}});
+    QTest::keyClicks(EditorOf(1), QStringLiteral("x"));
+    for (int round = 0; round < 30; ++round)
+        Settle();
+    EXPECT_EQ(Registry().Documents[1].FunctionNames[0], QStringLiteral("xUno"));
+    EXPECT_LE(paints.Count, 2);
 }
 
 TEST_F(DocumentWindowTest, MovesTheTextWithItsUndoHistoryWhenAnEarlierDocumentCloses) {
