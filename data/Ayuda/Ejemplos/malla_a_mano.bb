@@ -8,7 +8,6 @@ SetBuffer BackBuffer()
 
 camara=CreateCamera()
 PositionEntity camara,0,1,-5
-luz=CreateLight()
 
 ; Una malla está hecha de superficies, y una superficie, de triángulos.
 piramide=CreateMesh()
