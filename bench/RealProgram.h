@@ -34,11 +34,13 @@ class FileQueue final : public Dialogs {
     std::size_t Next_ = 0;
 };
 
-/// The whole program in a folder of its own.
+/// The whole program, in an empty folder of its own or in `appDir`.
 struct RealProgram {
     /// The Open command chooses `files` one after another.
-    explicit RealProgram(std::vector<QString> files)
-        : Dialogs(std::move(files)) {
+    explicit RealProgram(std::vector<QString> files, const QString &appDir = {})
+        : Dialogs(std::move(files))
+        , Whole({appDir.isEmpty() ? Folder.path() + u'/' : appDir, Files, Profile, Console,
+                 Programs, Dialogs, Events}) {
         Whole.Start();
     }
 
@@ -49,7 +51,7 @@ struct RealProgram {
     SystemPrograms Programs;
     FileQueue Dialogs;
     QtEventLoop Events;
-    Program Whole{{Folder.path() + u'/', Files, Profile, Console, Programs, Dialogs, Events}};
+    Program Whole;
 };
 
 inline const QString OpenCommand = QStringLiteral("mnuArchivo_Abrir");

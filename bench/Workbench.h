@@ -56,6 +56,8 @@ void MeasureColouring();
 void MeasureLongLine();
 void MeasureDocuments();
 void MeasureSymbols();
+/// Only the first start in a process is that of a program that a person starts.
+void MeasureStartUp();
 /// `reading`: seconds that reading the same bytes takes.
 void MeasureOpeningInTheProgram(double reading);
 

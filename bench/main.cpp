@@ -4,7 +4,8 @@
 #include <QApplication>
 
 /// Without arguments measures everything; otherwise what the arguments name: loading, memory,
-/// colouring, line, documents, symbols.
+/// colouring, line, documents, symbols, and alone
+/// startup.
 int main(int argc, char *argv[]) {
     using namespace Quillbox::Bench;
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
@@ -13,6 +14,10 @@ int main(int argc, char *argv[]) {
     const QStringList wanted = QCoreApplication::arguments().mid(1);
     if (wanted.contains(QStringLiteral("--memory"))) {
         PrintMemoryOfColouredText();
+        return 0;
+    }
+    if (wanted.contains(QStringLiteral("startup"))) {
+        MeasureStartUp();
         return 0;
     }
     const auto isWanted = [&wanted](const char *name) {
