@@ -2,6 +2,7 @@
 #include "Program.h"
 
 #include "editor/EditCommands.h"
+#include "editor/WordCompletion.h"
 #include "platform/EditorControl.h"
 #include "project/frmNewProject.h"
 
@@ -107,6 +108,11 @@ void Program::FillEditCommands() {
         Commands_[QString::fromUtf8(command.Name)] = [this, run = command.Run] {
             run(CurrentEditor());
         };
+    Commands_[QStringLiteral("mnuEdicion_CompletarPalabra")] = [this] {
+        const SymbolCounts counts{Main_.Lists().ItemCount(NavigationList::Functions),
+                                  Main_.Lists().ItemCount(NavigationList::Types)};
+        CurrentEditor().CompleteWord(CollectCompletions(Words_, Registry_.Current(), counts));
+    };
 }
 
 void Program::FillEvents() {
