@@ -3,6 +3,7 @@
 
 #include "editor/EditCommands.h"
 #include "editor/LineCommands.h"
+#include "editor/WordCompletion.h"
 #include "platform/EditorControl.h"
 #include "project/frmNewProject.h"
 
@@ -115,6 +116,11 @@ void Program::FillEditCommands() {
     Commands_[QStringLiteral("mnuEdicion_InsertarRGB")] = [this] {
         if (Registry_.CurrentIndex > 0)
             ColorInsertion_.mnuEdicion_InsertarRGB_Click(CurrentEditor());
+    };
+    Commands_[QStringLiteral("mnuEdicion_CompletarPalabra")] = [this] {
+        const SymbolCounts counts{Main_.Lists().ItemCount(NavigationList::Functions),
+                                  Main_.Lists().ItemCount(NavigationList::Types)};
+        CurrentEditor().CompleteWord(CollectCompletions(Words_, Registry_.Current(), counts));
     };
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/Color.h"
+#include "platform/Completion.h"
 #include "platform/TextPosition.h"
 
 #include <QString>
@@ -13,8 +14,8 @@ namespace Quillbox {
 
 /// Colour slots of the editor control. Each class of text has a foreground and a background slot.
 enum class ColorSlot {
-    Window = 0,       ///< what lies behind and below the text
-    Margin = 1,       ///< background of the margin with line numbers and bookmarks
+    Window = 0, ///< what lies behind and below the text
+    Margin = 1, ///< background of the margin with line numbers and bookmarks
     Text = 4,
     TextBackground = 5,
     Number = 6,
@@ -70,6 +71,9 @@ enum class EditorCommand {
     ClearBookmarks = 207,
     FirstBookmark = 208,
     LastBookmark = 209,
+    GoToLine = 301,             ///< asks for a line
+    GoToMatchingBracket = 302,  ///< of the bracket at the caret
+    SelectNextOccurrence = 303, ///< the word at the caret, then also the next text like it
 };
 
 /// The operations of one document's editor. Lines and columns are 0-based and count characters;
@@ -132,11 +136,13 @@ class EditorControl {
     virtual bool IsModified() const = 0;
     /// The whole text; for small texts and tests, never on a hot path.
     virtual QString Text() const = 0;
-    /// Takes over text, modified flag, undo history, marks, caret and scroll position of `other`
-    /// without copying the text. Until `other` is closed or takes over another text, both show it.
+    /// Takes over text, modified flag, undo history, marks, caret, scroll position and zoom of
+    /// `other` without copying the text. Until `other` is closed or takes over another text, both
+    /// show it.
     virtual void TakeContentsFrom(EditorControl &other) = 0;
     virtual void SetFocus() = 0;
-    /// Asks for a printer and prints with file name and page number; errors are ignored.
+    /// Shows the pages, each with file name and page number; from there the person prints them.
+    /// Errors are ignored.
     virtual void Print(const QString &fileName) = 0;
 
     /// Tints a line until the next edit or the next call; -1 tints none.
@@ -146,6 +152,9 @@ class EditorControl {
     /// Puts the caret there with nothing selected.
     virtual void SetCaretPos(TextPosition position) = 0;
     virtual void ExecuteCommand(EditorCommand command) = 0;
+    /// Completes the word before the caret with the candidate that begins with it; of several the
+    /// person chooses in a list, which follows what is typed meanwhile. With none nothing happens.
+    virtual void CompleteWord(const Completions &candidates) = 0;
     virtual void InsertText(const QString &text, TextPosition position) = 0;
     /// What `edits` does to the text is undone and told to listeners at once.
     virtual void AsOneUndoStep(const std::function<void()> &edits) = 0;

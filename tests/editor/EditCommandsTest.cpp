@@ -128,7 +128,10 @@ INSTANTIATE_TEST_SUITE_P(
                     Numbered{"BookmarkSiguiente", "mnuEdicion_BookmarkSiguiente", 206},
                     Numbered{"EliminarTodosBookmarks", "mnuEdicion_EliminarTodosBookmarks", 207},
                     Numbered{"PrimerBookmark", "mnuEdicion_PrimerBookmark", 208},
-                    Numbered{"UltimoBookmark", "mnuEdicion_UltimoBookmark", 209}),
+                    Numbered{"UltimoBookmark", "mnuEdicion_UltimoBookmark", 209},
+                    Numbered{"IrALinea", "mnuEdicion_IrALinea", 301},
+                    Numbered{"IrACorchete", "mnuEdicion_IrACorchete", 302},
+                    Numbered{"SeleccionarSiguiente", "mnuEdicion_SeleccionarSiguiente", 303}),
     RowName);
 
 } // namespace

@@ -173,7 +173,7 @@ TEST_F(Appearance, OnPaperHasPagesWithTheWholeText) {
     EditorPrinter printer("juego.bb");
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName(PathOf("juego.pdf"));
-    Editor->PrintOn(printer);
+    Editor->PrintOn(printer, Editor->LineCount());
     EXPECT_GT(printer.PageCount(), 3);
     EXPECT_LT(printer.PageCount(), 40);
     const QByteArray pdf = Read(PathOf("juego.pdf"));
@@ -186,7 +186,7 @@ TEST_F(Appearance, OnPaperIsOnePageForAShortText) {
     EditorPrinter printer("juego.bb");
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName(PathOf("juego.pdf"));
-    Editor->PrintOn(printer);
+    Editor->PrintOn(printer, Editor->LineCount());
     EXPECT_EQ(printer.PageCount(), 1);
 }
 

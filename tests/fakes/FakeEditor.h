@@ -111,6 +111,9 @@ class FakeEditor : public EditorControl {
     void ExecuteCommand(EditorCommand command) override {
         Log_.Add("editor.ExecuteCommand", static_cast<int>(command));
     }
+    void CompleteWord(const Completions &candidates) override {
+        Log_.Add("editor.CompleteWord", static_cast<int>(candidates.size()));
+    }
     void InsertText(const QString &text, TextPosition position) override {
         Log_.Add("editor.InsertText", text, position.Line.Value, position.Column.Value);
     }

@@ -83,10 +83,10 @@ void ScintillaColouring::PrepareShownText() {
         TellEndOfColours();
 }
 
-void ScintillaColouring::PrepareWholeText() {
+void ScintillaColouring::PrepareTextUpTo(BytePosition end) {
     Extent_.Show(0);
     TellEndOfColours();
-    ColourUpTo(Text_.Length());
+    ColourUpTo(end);
 }
 
 void ScintillaColouring::ColourPiece(BytePosition start, BytePosition end) {

@@ -31,7 +31,8 @@ class ScintillaColouring {
     void ColourUpTo(BytePosition end);
     /// To be called before anything is painted.
     void PrepareShownText();
-    void PrepareWholeText();
+    /// To be called before all the text up to `end` is painted elsewhere.
+    void PrepareTextUpTo(BytePosition end);
 
     TextStyle StyleAt(BytePosition position) const;
 

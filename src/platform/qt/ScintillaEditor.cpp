@@ -2,9 +2,14 @@
 #include "platform/qt/ScintillaEditor.h"
 
 #include "platform/Paths.h"
+#include "platform/qt/ScintillaAccessible.h"
+#include "platform/qt/ScintillaBrackets.h"
+#include "platform/qt/ScintillaCarets.h"
+#include "platform/qt/ScintillaCompletion.h"
 #include "platform/qt/ScintillaKeys.h"
 #include "platform/qt/ScintillaMarks.h"
 #include "platform/qt/ScintillaSearch.h"
+#include "platform/qt/ScintillaZoom.h"
 
 #include <QPointer>
 
@@ -54,9 +59,22 @@ ScintillaEditor::ScintillaEditor(const LanguageCatalogue &languages, FindState &
     connect(this, &QsciScintillaBase::SCN_SAVEPOINTLEFT, this, &ScintillaEditor::TellChangesSoon);
     connect(this, &QsciScintillaBase::SCN_SAVEPOINTREACHED, this,
             &ScintillaEditor::TellChangesSoon);
+    AddAssistants();
 }
 
 ScintillaEditor::~ScintillaEditor() = default;
+
+/// What watches the control and belongs to it.
+void ScintillaEditor::AddAssistants() {
+    Completion_ = new ScintillaCompletion(*this);
+    new ScintillaZoom(*this);
+    new ScintillaAccessibility(*this);
+    connect(this, &QsciScintillaBase::SCN_ZOOM, this, [this] { Styles_.ZoomChanged(); });
+    connect(this, &QsciScintillaBase::SCN_UPDATEUI, this, [this](int updated) {
+        if ((updated & (SC_UPDATE_CONTENT | SC_UPDATE_SELECTION)) != 0)
+            MarkBrackets(Text_, Colouring_);
+    });
+}
 
 void ScintillaEditor::SetUpControl() {
     Text_.Send(SCI_SETMODEVENTMASK, SC_MOD_INSERTTEXT | SC_MOD_DELETETEXT);
@@ -67,6 +85,8 @@ void ScintillaEditor::SetUpControl() {
     Text_.Send(SCI_SETENDATLASTLINE, 0);
     Text_.Send(SCI_SETLAYOUTCACHE, SC_CACHE_PAGE);
     ClearLetterCommands(Text_);
+    SetUpSeveralCarets(Text_);
+    SetUpBracketMarks(Text_);
 }
 
 /// What belongs to the text shown and not to the component.

@@ -15,6 +15,7 @@ namespace Quillbox {
 
 class Dialogs;
 class EditorPrinter;
+class ScintillaCompletion;
 struct FileError;
 struct FindState;
 
@@ -69,13 +70,14 @@ class ScintillaEditor final : public QsciScintillaBase, public EditorControl {
     void TakeContentsFrom(EditorControl &other) override;
     void SetFocus() override;
     void Print(const QString &fileName) override;
-    /// Prints on a printer that is set up already.
-    void PrintOn(EditorPrinter &printer);
+    /// Prints the first lines on a printer that is set up already.
+    void PrintOn(EditorPrinter &printer, int lineCount);
 
     void SetHighlightedLine(LineIndex line) override;
     void SetTopIndex(LineIndex line) override;
     void SetCaretPos(TextPosition position) override;
     void ExecuteCommand(EditorCommand command) override;
+    void CompleteWord(const Completions &candidates) override;
     void InsertText(const QString &text, TextPosition position) override;
     void AsOneUndoStep(const std::function<void()> &edits) override;
     void ReplaceSel(const QString &text) override;
@@ -107,10 +109,13 @@ class ScintillaEditor final : public QsciScintillaBase, public EditorControl {
 
   private:
     void SetUpControl();
+    void AddAssistants();
     void SetUpDocument();
     void FollowLanguage(const QString &name, LanguageChange change);
     void PrepareLongLines();
     void InsertLineBreak();
+    std::string LineBreakAt(BytePosition position) const;
+    bool PasteLineByLine();
     void ReplaceSelection(std::string_view utf8);
     std::size_t CaretInLine(LineIndex line) const;
     void OnModified(int position, int type, const char *text, int length, int linesAdded);
@@ -128,6 +133,7 @@ class ScintillaEditor final : public QsciScintillaBase, public EditorControl {
     ScintillaText Text_;
     ScintillaStyles Styles_;
     mutable ScintillaColouring Colouring_; ///< asking for a token's class colours its line
+    ScintillaCompletion *Completion_ = nullptr;
     QString Language_;
     int ActionDepth_ = 0;
     bool WillTellChanges_ = false;

@@ -1,5 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/qt/FindDialog.h"
+#include "platform/qt/GoToLineDialog.h"
+#include "platform/qt/ScintillaBrackets.h"
+#include "platform/qt/ScintillaCarets.h"
+#include "platform/qt/ScintillaCompletion.h"
 #include "platform/qt/ScintillaEditor.h"
 #include "platform/qt/ScintillaMarks.h"
 #include "platform/qt/ScintillaPrinting.h"
@@ -7,16 +11,18 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMimeData>
-#include <QPrintDialog>
 
 namespace Quillbox {
 
-bool ScintillaEditor::CanCopy() const { return Text_.SelectionStart() != Text_.SelectionEnd(); }
-void ScintillaEditor::Copy() { Text_.Send(SCI_COPY); }
+bool ScintillaEditor::CanCopy() const { return HasSelection(Text_); }
+void ScintillaEditor::Copy() { CopySelections(Text_); }
 
 bool ScintillaEditor::CanCut() const { return CanCopy(); }
 void ScintillaEditor::Cut() {
-    Perform([this] { Text_.Send(SCI_CUT); });
+    if (!HasSelection(Text_))
+        return;
+    CopySelections(Text_);
+    DeleteSel();
 }
 
 bool ScintillaEditor::CanPaste() const {
@@ -24,7 +30,26 @@ bool ScintillaEditor::CanPaste() const {
     return content != nullptr && content->hasText();
 }
 void ScintillaEditor::Paste() {
-    Perform([this] { Text_.Send(SCI_PASTE); });
+    Perform([this] {
+        if (!PasteLineByLine())
+            Text_.Send(SCI_PASTE);
+    });
+}
+
+/// Each of several carets gets a line of its own when there are as many lines.
+bool ScintillaEditor::PasteLineByLine() {
+    const QMimeData *content = QGuiApplication::clipboard()->mimeData();
+    bool rectangular = false;
+    if (content == nullptr || CaretCount(Text_) == 1)
+        return false;
+    const QByteArray bytes = fromMimeData(content, rectangular).replace("\r\n", "\n");
+    const QList<QByteArray> lines = bytes.split('\n');
+    if (rectangular || lines.size() != CaretCount(Text_))
+        return false;
+    ReplaceSelections(Text_, [&](const CaretPlace &caret) {
+        return caret.Blanks + lines[caret.Number].toStdString();
+    });
+    return true;
 }
 
 bool ScintillaEditor::CanUndo() const { return Text_.Send(SCI_CANUNDO) != 0; }
@@ -71,20 +96,30 @@ void ScintillaEditor::ExecuteCommand(EditorCommand command) {
     case EditorCommand::LastBookmark:
         GoToLastBookmark(Text_);
         break;
+    case EditorCommand::GoToLine:
+        GoToLine(*this);
+        break;
+    case EditorCommand::GoToMatchingBracket:
+        GoToMatchingBracket(Text_, Colouring_);
+        break;
+    case EditorCommand::SelectNextOccurrence:
+        SelectNextOccurrence(Text_);
+        break;
     }
 }
 
-void ScintillaEditor::Print(const QString &fileName) {
-    EditorPrinter printer(fileName);
-    QPrintDialog dialog(&printer, window());
-    if (dialog.exec() == QDialog::Accepted)
-        PrintOn(printer);
+void ScintillaEditor::Print(const QString &fileName) { ShowPrintPreview(*this, fileName); }
+
+void ScintillaEditor::PrintOn(EditorPrinter &printer, int lineCount) {
+    const LineIndex last = Text_.NearestLine({lineCount - 1});
+    Colouring_.PrepareTextUpTo(Text_.NextLineStart(last));
+    Text_.Send(SCI_SETPRINTCOLOURMODE, SC_PRINT_COLOURONWHITE);
+    printer.StartCounting();
+    printer.printRange(this, 0, last.Value);
 }
 
-void ScintillaEditor::PrintOn(EditorPrinter &printer) {
-    Colouring_.PrepareWholeText();
-    Text_.Send(SCI_SETPRINTCOLOURMODE, SC_PRINT_COLOURONWHITE);
-    printer.printRange(this);
+void ScintillaEditor::CompleteWord(const Completions &candidates) {
+    Completion_->Start(candidates);
 }
 
 } // namespace Quillbox

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/qt/ScintillaCarets.h"
 #include "platform/qt/ScintillaEditor.h"
 #include "platform/qt/ScintillaKeys.h"
 #include "platform/qt/ScintillaSearch.h"
@@ -41,6 +42,10 @@ void ScintillaEditor::keyPressEvent(QKeyEvent *event) {
         InsertLineBreak();
         return event->accept();
     }
+    if (event->key() == Qt::Key_Escape && CaretCount(Text_) > 1) {
+        KeepMainCaret(Text_);
+        return event->accept();
+    }
     const QString characters = EditorCharacters(event->text());
     if (characters == event->text())
         return QsciScintillaBase::keyPressEvent(event);
@@ -52,13 +57,18 @@ void ScintillaEditor::keyPressEvent(QKeyEvent *event) {
 
 /// A new line takes over the blanks and tabs that the line before it begins with.
 void ScintillaEditor::InsertLineBreak() {
+    if (CaretCount(Text_) == 1)
+        return ReplaceSelection(LineBreakAt(Text_.SelectionStart()));
+    ReplaceSelections(Text_, [this](const CaretPlace &caret) { return LineBreakAt(caret.Start); });
+}
+
+std::string ScintillaEditor::LineBreakAt(BytePosition position) const {
     static constexpr std::string_view lineEnds[] = {"\r\n", "\r", "\n"};
-    const BytePosition start = Text_.SelectionStart();
-    const std::string_view before = Text_.Bytes(Text_.LineStart(Text_.LineOf(start)), start);
+    const std::string_view before = Text_.Bytes(Text_.LineStart(Text_.LineOf(position)), position);
     const std::size_t indent = std::min(before.find_first_not_of(" \t"), before.size());
     std::string lineBreak(lineEnds[Text_.Send(SCI_GETEOLMODE)]);
     lineBreak += before.substr(0, indent);
-    ReplaceSelection(lineBreak);
+    return lineBreak;
 }
 
 void ScintillaEditor::keyReleaseEvent(QKeyEvent *event) {

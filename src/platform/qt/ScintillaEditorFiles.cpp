@@ -45,6 +45,7 @@ void ScintillaEditor::TakeContentsFrom(EditorControl &other) {
     Text_.Send(SCI_SETDOCPOINTER, 0, source.Text_.Send(SCI_GETDOCPOINTER));
     Styles_.TextReplaced();
     Colouring_.TakeOver(source.Colouring_);
+    Text_.Send(SCI_SETZOOM, source.Text_.Send(SCI_GETZOOM));
     LineIsHighlighted_ = source.LineIsHighlighted_;
     Text_.Send(SCI_SETSEL, source.Text_.Send(SCI_GETANCHOR), source.Text_.Caret());
     Text_.Send(SCI_SETFIRSTVISIBLELINE, source.Text_.Send(SCI_GETFIRSTVISIBLELINE));

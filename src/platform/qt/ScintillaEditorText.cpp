@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/ColouringTokens.h"
+#include "platform/qt/ScintillaCarets.h"
 #include "platform/qt/ScintillaEditor.h"
 #include "platform/qt/ScintillaMarks.h"
 
@@ -80,7 +81,7 @@ TextRange ScintillaEditor::GetSel() const {
 }
 
 void ScintillaEditor::DeleteSel() {
-    if (Text_.SelectionStart() != Text_.SelectionEnd())
+    if (HasSelection(Text_))
         Perform([this] { Text_.Send(SCI_CLEAR); });
 }
 
@@ -119,7 +120,12 @@ void ScintillaEditor::AsOneUndoStep(const std::function<void()> &edits) {
 
 void ScintillaEditor::ReplaceSel(const QString &text) {
     const QByteArray bytes = EditorBytes(text);
-    Perform([&] { ReplaceSelection(ViewOf(bytes)); });
+    Perform([&] {
+        if (CaretCount(Text_) == 1)
+            return ReplaceSelection(ViewOf(bytes));
+        ReplaceSelections(
+            Text_, [&](const CaretPlace &caret) { return caret.Blanks + bytes.toStdString(); });
+    });
 }
 
 /// As one undo step, with the caret behind the replacement.

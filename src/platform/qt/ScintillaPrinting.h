@@ -7,13 +7,17 @@
 
 namespace Quillbox {
 
+class ScintillaEditor;
+
 /// Prints an editor's text; each page is headed by the file's name and the page's number.
 class EditorPrinter final : public QsciPrinter {
   public:
     explicit EditorPrinter(const QString &fileName);
 
-    /// Pages drawn so far.
+    /// Pages drawn by the last printing.
     int PageCount() const { return PageCount_; }
+    /// To be called before a printing.
+    void StartCounting() { PageCount_ = 0; }
 
     void formatPage(QPainter &painter, bool drawing, QRect &area, int pageNumber) override;
 
@@ -21,5 +25,10 @@ class EditorPrinter final : public QsciPrinter {
     QString FileName_;
     int PageCount_ = 0;
 };
+
+/// Shows how the text will look on paper; from there the person prints it. The preview of a long
+/// text ends after MostPreviewLines.
+void ShowPrintPreview(ScintillaEditor &editor, const QString &fileName);
+inline constexpr int MostPreviewLines = 6000;
 
 } // namespace Quillbox

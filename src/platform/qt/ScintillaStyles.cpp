@@ -210,7 +210,10 @@ void ScintillaStyles::ApplyAccents() {
     const Color contrast = IsDark(window) ? White : Black;
     Text_.Send(Sci::SCI_SETCARETFORE, contrast.Value);
     Text_.Send(Sci::SCI_SETCARETLINEBACK, contrast.Value);
-    Text_.Send(Sci::SCI_SETSELBACK, 1, Blend(SelectionBlue, window, 40).Value);
+    const Color selection = Blend(SelectionBlue, window, 40);
+    Text_.Send(Sci::SCI_SETSELBACK, 1, selection.Value);
+    Text_.Send(Sci::SCI_SETADDITIONALSELBACK, selection.Value);
+    Text_.Send(Sci::SCI_SETADDITIONALCARETFORE, contrast.Value);
     Text_.Send(Sci::SCI_STYLESETBACK, Sci::STYLE_LINENUMBER, margin.Value);
     Text_.Send(Sci::SCI_STYLESETFORE, Sci::STYLE_LINENUMBER,
                (IsDark(margin) ? White : MarginDigits).Value);

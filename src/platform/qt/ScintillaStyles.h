@@ -24,6 +24,8 @@ class ScintillaStyles {
 
     /// Fits the margin to the number of lines.
     void TextLinesChanged();
+    /// Fits the margin to the size at which digits show.
+    void ZoomChanged() { ApplyMarginWidth(); }
     /// Settings that belong to the text shown and not to the component are made again.
     void TextReplaced();
 
