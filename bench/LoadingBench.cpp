@@ -3,6 +3,9 @@
 #include "Workbench.h"
 
 #include <QFile>
+#include <QKeyEvent>
+
+#include <algorithm>
 
 namespace Quillbox::Bench {
 
@@ -16,6 +19,21 @@ void ReadPlainly(const QString &path) {
     const std::unique_ptr<char[]> bytes(new char[static_cast<std::size_t>(size)]);
     if (file.read(bytes.get(), size) != size)
         std::abort();
+}
+
+/// Milliseconds until a letter typed at the end of the text shows, the longest of some.
+double LongestTypingTime(ScintillaEditor &editor) {
+    editor.SetLinePosition({editor.LineCount() - 1});
+    QCoreApplication::processEvents();
+    double longest = 0;
+    for (int letter = 0; letter < 100; ++letter)
+        longest = std::max(longest, ShortestTime(1, [&] {
+                               QKeyEvent key(QEvent::KeyPress, Qt::Key_X, Qt::NoModifier,
+                                             QStringLiteral("x"));
+                               QCoreApplication::sendEvent(&editor, &key);
+                               QCoreApplication::processEvents();
+                           }));
+    return longest * 1000;
 }
 
 } // namespace
@@ -37,6 +55,8 @@ void MeasureLoading() {
            reference,
            "s",
            {Goal::Direction::AtMost, 10}});
+    Print("A letter typed at the end of 100 MB of source until it shows",
+          LongestTypingTime(*editor), "ms", {Goal::Direction::AtMost, 100});
     editor.reset();
     MeasureOpeningInTheProgram(reference);
 }

@@ -18,41 +18,62 @@ QAccessibleInterface *MakeAccessibleEditor(const QString &, QObject *object) {
     return editor == nullptr ? nullptr : new AccessibleEditor(*editor);
 }
 
+/// The component makes an interface of its own, which counts all characters before the caret at each
+/// paint, with or without a tool that wants to know.
+void ReplaceComponentsInterface(ScintillaEditor &editor) {
+    QAccessible::installFactory(MakeAccessibleEditor);
+    QAccessibleInterface *made = QAccessible::queryAccessibleInterface(&editor);
+    if (dynamic_cast<AccessibleEditor *>(made) == nullptr)
+        QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(made));
+}
+
 } // namespace
 
 ScintillaAccessibility::ScintillaAccessibility(ScintillaEditor &editor)
     : QObject(&editor)
     , Editor_(editor)
     , Text_(editor) {
-    QAccessible::installFactory(MakeAccessibleEditor);
+    ReplaceComponentsInterface(editor);
     connect(&editor, &Sci::SCN_MODIFIED, this,
-            [this](int position, int type, const char *bytes, int length) {
+            [this](int position, int type, const char *, int length) {
                 if (QAccessible::isActive())
-                    TellModified(position, type, bytes, length);
+                    Modified(position, type, length);
             });
     connect(&editor, &Sci::SCN_UPDATEUI, this, [this] {
-        if (QAccessible::isActive())
-            TellCaret();
+        if (!QAccessible::isActive())
+            return;
+        TellInserted();
+        TellCaret();
     });
 }
 
-void ScintillaAccessibility::TellModified(int position, int type, const char *bytes, int length) {
-    const bool inserted = (type & Sci::SC_MOD_INSERTTEXT) != 0;
-    if (!inserted && (type & Sci::SC_MOD_DELETETEXT) == 0)
-        return;
-    if (length > MostToldBytes || bytes == nullptr) {
+/// About to happen: what goes can be read now, what comes only when it is there.
+void ScintillaAccessibility::Modified(BytePosition position, int type, int length) {
+    TellInserted();
+    if (length > MostToldBytes) {
         QAccessibleEvent event(&Editor_, QAccessible::VisibleDataChanged);
-        return QAccessible::updateAccessibility(&event);
-    }
-    const int offset = ScintillaOffsets(Text_).OffsetOf(position);
-    const QString text = QString::fromUtf8(bytes, length);
-    if (inserted) {
-        QAccessibleTextInsertEvent event(&Editor_, offset, text);
         QAccessible::updateAccessibility(&event);
-    } else {
-        QAccessibleTextRemoveEvent event(&Editor_, offset, text);
+    } else if ((type & Sci::SC_MOD_BEFOREINSERT) != 0) {
+        Inserted_ = {position, position + length};
+    } else if ((type & Sci::SC_MOD_BEFOREDELETE) != 0) {
+        QAccessibleTextRemoveEvent event(&Editor_, ScintillaOffsets(Text_).OffsetOf(position),
+                                         TextOf({position, position + length}));
         QAccessible::updateAccessibility(&event);
     }
+}
+
+void ScintillaAccessibility::TellInserted() {
+    const Stretch inserted = std::exchange(Inserted_, {});
+    if (inserted.Start == inserted.End)
+        return;
+    QAccessibleTextInsertEvent event(&Editor_, ScintillaOffsets(Text_).OffsetOf(inserted.Start),
+                                     TextOf(inserted));
+    QAccessible::updateAccessibility(&event);
+}
+
+QString ScintillaAccessibility::TextOf(Stretch stretch) const {
+    const std::string_view bytes = Text_.Bytes(stretch.Start, stretch.End);
+    return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
 }
 
 void ScintillaAccessibility::TellCaret() {

@@ -16,11 +16,18 @@ class ScintillaAccessibility final : public QObject {
     explicit ScintillaAccessibility(ScintillaEditor &editor);
 
   private:
-    void TellModified(int position, int type, const char *bytes, int length);
+    struct Stretch {
+        BytePosition Start = 0;
+        BytePosition End = 0;
+    };
+    void Modified(BytePosition position, int type, int length);
+    void TellInserted();
+    QString TextOf(Stretch stretch) const;
     void TellCaret();
 
     ScintillaEditor &Editor_;
     ScintillaText Text_;
+    Stretch Inserted_; ///< not told yet
     int Caret_ = 0; ///< as it was told last, in characters
     bool HadSelection_ = false;
 };

@@ -46,6 +46,7 @@ ScintillaEditor::ScintillaEditor(const LanguageCatalogue &languages, FindState &
     , Text_(*this)
     , Styles_(Text_)
     , Colouring_(Text_) {
+    new ScintillaAccessibility(*this);
     setAccessibleName(tr("Editor de código"));
     // Without this, each blink of the caret would paint the window behind the editor as well.
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
@@ -68,7 +69,6 @@ ScintillaEditor::~ScintillaEditor() = default;
 void ScintillaEditor::AddAssistants() {
     Completion_ = new ScintillaCompletion(*this);
     new ScintillaZoom(*this);
-    new ScintillaAccessibility(*this);
     connect(this, &QsciScintillaBase::SCN_ZOOM, this, [this] { Styles_.ZoomChanged(); });
     connect(this, &QsciScintillaBase::SCN_UPDATEUI, this, [this](int updated) {
         if ((updated & (SC_UPDATE_CONTENT | SC_UPDATE_SELECTION)) != 0)
@@ -77,7 +77,9 @@ void ScintillaEditor::AddAssistants() {
 }
 
 void ScintillaEditor::SetUpControl() {
-    Text_.Send(SCI_SETMODEVENTMASK, SC_MOD_INSERTTEXT | SC_MOD_DELETETEXT);
+    // What has happened already is also reported to the component's own interface for assistive
+    // tools, which counts all characters before the place, each time, even without such a tool.
+    Text_.Send(SCI_SETMODEVENTMASK, SC_MOD_BEFOREINSERT | SC_MOD_BEFOREDELETE);
     Text_.Send(SCI_USEPOPUP, 0);
     Text_.Send(SCI_SETSCROLLWIDTHTRACKING, 1);
     Text_.Send(SCI_SETSCROLLWIDTH, 1);
@@ -129,15 +131,14 @@ void ScintillaEditor::SetFontSize(int points) { Styles_.SetFontSize(points); }
 void ScintillaEditor::SetTabSize(int columns) { Styles_.SetTabSize(columns); }
 void ScintillaEditor::SetLineNumbers(bool shown) { Styles_.SetLineNumbers(shown); }
 
-void ScintillaEditor::OnModified(int position, int type, const char *, int length, int linesAdded) {
-    if ((type & SC_MOD_INSERTTEXT) != 0)
+void ScintillaEditor::OnModified(int position, int type, const char *, int length) {
+    if ((type & SC_MOD_BEFOREINSERT) != 0)
         Colouring_.TextInserted(position, length);
-    else if ((type & SC_MOD_DELETETEXT) != 0)
+    else if ((type & SC_MOD_BEFOREDELETE) != 0)
         Colouring_.TextDeleted(position, length);
     else
         return;
     TextHasChanged_ = true;
-    LinesHaveChanged_ = LinesHaveChanged_ || linesAdded != 0;
     TellChangesSoon();
 }
 
@@ -162,7 +163,7 @@ void ScintillaEditor::TellChanges() {
     if (ActionDepth_ > 0)
         return;
     const bool textChanged = std::exchange(TextHasChanged_, false);
-    if (std::exchange(LinesHaveChanged_, false))
+    if (textChanged)
         Styles_.TextLinesChanged();
     if (textChanged && std::exchange(LineIsHighlighted_, false))
         HighlightLine(Text_, {-1});

@@ -118,7 +118,8 @@ class ScintillaEditor final : public QsciScintillaBase, public EditorControl {
     bool PasteLineByLine();
     void ReplaceSelection(std::string_view utf8);
     std::size_t CaretInLine(LineIndex line) const;
-    void OnModified(int position, int type, const char *text, int length, int linesAdded);
+    /// About to happen, one report for each stretch of text.
+    void OnModified(int position, int type, const char *text, int length);
     /// Runs `action`, then tells what it changed, once for the outermost action.
     void Perform(const std::function<void()> &action);
     void TellChanges();
@@ -138,7 +139,6 @@ class ScintillaEditor final : public QsciScintillaBase, public EditorControl {
     int ActionDepth_ = 0;
     bool WillTellChanges_ = false;
     bool TextHasChanged_ = false;
-    bool LinesHaveChanged_ = false;
     bool KnownModified_ = false;
     bool LineIsHighlighted_ = false;
     bool ReadyForLongLines_ = false;

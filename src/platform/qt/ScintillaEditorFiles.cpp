@@ -54,7 +54,7 @@ void ScintillaEditor::TakeContentsFrom(EditorControl &other) {
 }
 
 void ScintillaEditor::TellOtherText() {
-    LinesHaveChanged_ = true;
+    Styles_.TextLinesChanged();
     TellChanges();
 }
 
