@@ -63,6 +63,7 @@ frmMuestraImagenes::frmMuestraImagenes(const NamedPicture &picture, MainWindow &
     stbStatusBar->setSizeGripEnabled(false);
     setAttribute(Qt::WA_DeleteOnClose);
     setFocusPolicy(Qt::StrongFocus);
+    setFocus();
     Run(&ImagePreview::Form_Load);
     ShowPicture(picture);
     connect(qGuiApp, &QGuiApplication::focusWindowChanged, this,
@@ -102,7 +103,6 @@ void frmMuestraImagenes::Unload() { close(); }
 
 void frmMuestraImagenes::focusInEvent(QFocusEvent *event) {
     QWidget::focusInEvent(event);
-    HadFocus_ = true;
     Run(&ImagePreview::Form_GotFocus);
 }
 
@@ -136,6 +136,7 @@ void frmMuestraImagenes::resizeEvent(QResizeEvent *event) {
 /// Without a window of this program the person is in another one, from which nothing must take the
 /// keyboard.
 void frmMuestraImagenes::OnFocusWindowChanged(const QWindow *now) {
+    HadFocus_ = HadFocus_ || (now && now == windowHandle());
     if (!now || now == windowHandle() || !HadFocus_ || Leaving_)
         return;
     const bool isOwner = now == parentWidget()->windowHandle();

@@ -51,7 +51,7 @@ bool IsForPeople(const Mount &mount) {
 std::vector<Drive> DrivesOf(const QString &home, std::vector<Mount> mounts) {
     std::vector<Drive> drives = {{QStringLiteral("/"), QStringLiteral("Sistema")}};
     if (home != QStringLiteral("/"))
-        drives.push_back({home, QStringLiteral("Carpeta personal")});
+        drives.push_back({home, QStringLiteral("Personal")});
     std::sort(mounts.begin(), mounts.end(),
               [](const Mount &left, const Mount &right) { return left.Path < right.Path; });
     for (const Mount &mount : mounts) {
