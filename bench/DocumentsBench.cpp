@@ -6,6 +6,7 @@
 #include "platform/ProfileFiles.h"
 #include "platform/SystemConsoleProcess.h"
 #include "platform/SystemFiles.h"
+#include "platform/SystemFolders.h"
 #include "platform/SystemPrograms.h"
 #include "platform/qt/QtEventLoop.h"
 
@@ -58,7 +59,9 @@ struct RealProgram {
     SystemPrograms Programs;
     FileQueue Dialogs;
     QtEventLoop Events;
-    Program Whole{{Folder.path() + u'/', Files, Profile, Console, Programs, Dialogs, Events}};
+    SystemFolders Disks;
+    Program Whole{
+        {Folder.path() + u'/', Files, Profile, Console, Programs, Dialogs, Events, Disks}};
 };
 
 const QString OpenCommand = QStringLiteral("mnuArchivo_Abrir");

@@ -44,8 +44,10 @@ void MediaBrowser::UpdateInsertPathButton() {
 
 void MediaBrowser::drvUnidad_GotFocus() { PreviousDrive_ = Window_.SelectedDrive(); }
 
-/// Other errors are ignored: the folder list then stays where it was.
+/// Other errors are ignored: the folder list then stays where it was. The message box gives the
+/// focus back while the failed drive is still selected, which must not count as the drive before.
 void MediaBrowser::drvUnidad_Change() {
+    const QString previous = PreviousDrive_;
     try {
         Window_.SetFolderPath(Window_.SelectedDrive());
     } catch (const RuntimeError &error) {
@@ -54,6 +56,7 @@ void MediaBrowser::drvUnidad_Change() {
         Parts_.Questions.ShowMessage({QStringLiteral("El dispositivo no está disponible."),
                                       QStringLiteral("Error"), MessageIcon::Critical,
                                       MessageButtons::Ok});
+        PreviousDrive_ = previous;
         Window_.SelectDrive(PreviousDrive_);
     }
 }

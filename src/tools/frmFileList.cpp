@@ -57,6 +57,7 @@ FileList::FileList(Folders &disks, QWidget *parent)
     setToolTip(QStringLiteral("Lista de archivos"));
     setModel(Files_);
     setEditTriggers(NoEditTriggers);
+    setTextElideMode(Qt::ElideMiddle);
     setUniformItemSizes(true);
     setVerticalScrollMode(ScrollPerPixel);
 }

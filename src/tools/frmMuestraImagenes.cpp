@@ -70,6 +70,9 @@ frmMuestraImagenes::frmMuestraImagenes(const NamedPicture &picture, MainWindow &
             &frmMuestraImagenes::OnFocusWindowChanged);
 }
 
+/// What follows changes the focus and must not be heard any more.
+frmMuestraImagenes::~frmMuestraImagenes() { qGuiApp->disconnect(this); }
+
 void frmMuestraImagenes::ShowPicture(const NamedPicture &picture) {
     const QRect screenArea = screen()->availableGeometry();
     const QSize shown = ShownSize(picture.Image.size(), screenArea.size() * ScreenShare);

@@ -27,6 +27,7 @@ class frmMuestraImagenes final : public QWidget, public ImagePreviewWindow {
   public:
     frmMuestraImagenes(const NamedPicture &picture, MainWindow &main, const EventBoundary &boundary,
                        QWidget *owner);
+    ~frmMuestraImagenes() override;
 
     void ShowStatusBar(bool shown) override;
     void PlacePicture(QPoint topLeft) override;

@@ -144,6 +144,26 @@ TEST_F(MediaBrowser, WarnsOfAMissingViewer) {
     EXPECT_TRUE(Leaves());
 }
 
+TEST_F(MediaBrowser, TellsADriveThatIsGoneAndStaysAtTheOneBefore) {
+    const QString home = PersonsFile(QStringLiteral("casa"));
+    ASSERT_TRUE(QDir().mkdir(home));
+    ASSERT_TRUE(Start({QStringLiteral("env"), QStringLiteral("HOME=") + home}));
+    ASSERT_TRUE(Open(Source_));
+    ASSERT_TRUE(ShowBrowser());
+    ASSERT_TRUE(QDir().rmdir(home));
+    // Below the root, which holds the open folder, comes the home folder.
+    ASSERT_TRUE(PressInBrowser({QStringLiteral("alt+u"), QStringLiteral("Down")}));
+    EXPECT_EQ(Person_.ReadMessage(ErrorTitle),
+              QStringLiteral("El dispositivo no está disponible."));
+    ASSERT_TRUE(Person_.PressIn(ErrorTitle, {QStringLiteral("Return")}));
+    ASSERT_TRUE(Person_.WaitForNoWindow(ErrorTitle));
+    ASSERT_TRUE(PressInBrowser({QStringLiteral("alt+r")}));
+    const QByteArray folder = QFile::encodeName(ProgramFile(QString())); // where it was started
+    const QByteArray expected = '"' + folder + "\"uno\r\n";
+    EXPECT_EQ(Saved(expected), expected);
+    EXPECT_TRUE(Leaves());
+}
+
 TEST_F(MediaBrowser, OpensAFileInTheViewer) {
     const QString mark = PersonsFile(QStringLiteral("marca"));
     MakeViewer("printf '%s|' \"$@\" > '" + QFile::encodeName(mark) + ".nueva'; mv '" +

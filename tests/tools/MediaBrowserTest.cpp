@@ -88,6 +88,32 @@ TEST_F(TheMediaBrowser, RemembersTheDriveAgainAtEveryFocus) {
     EXPECT_EQ(Window.Drive, "D");
 }
 
+/// Gives the drive list the focus back when it is closed, as a real message box does.
+class FocusReturningDialogs : public FakeDialogs {
+  public:
+    using FakeDialogs::FakeDialogs;
+    std::function<void()> Closed;
+
+    MessageAnswer ShowMessage(const Message &message) override {
+        const MessageAnswer answer = FakeDialogs::ShowMessage(message);
+        Closed();
+        return answer;
+    }
+};
+
+TEST_F(TheMediaBrowser, DoesNotTakeTheFailedDriveForTheOneBeforeWhenTheMessageCloses) {
+    FocusReturningDialogs boxes{Log};
+    MediaBrowser rules{{"/q/", Registry, Main, Stored, Launcher, boxes, Events}, Window};
+    boxes.Closed = [&] { rules.drvUnidad_GotFocus(); };
+    rules.drvUnidad_GotFocus();
+    Window.FolderError = DeviceUnavailable();
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        Window.Drive = "A";
+        rules.drvUnidad_Change();
+        EXPECT_EQ(Window.Drive, "C");
+    }
+}
+
 TEST_F(TheMediaBrowser, HasNoDriveToGoBackToBeforeTheFirstFocus) {
     Window.Drive = "A";
     Window.FolderError = DeviceUnavailable();
