@@ -7,6 +7,7 @@
 #include "platform/ProfileFiles.h"
 #include "platform/SystemConsoleProcess.h"
 #include "platform/SystemFiles.h"
+#include "platform/SystemFolders.h"
 #include "platform/SystemPrograms.h"
 #include "platform/qt/QtEventLoop.h"
 
@@ -40,7 +41,7 @@ struct RealProgram {
     explicit RealProgram(std::vector<QString> files, const QString &appDir = {})
         : Dialogs(std::move(files))
         , Whole({appDir.isEmpty() ? Folder.path() + u'/' : appDir, Files, Profile, Console,
-                 Programs, Dialogs, Events}) {
+                 Programs, Dialogs, Events, Disks}) {
         Whole.Start();
     }
 
@@ -51,6 +52,7 @@ struct RealProgram {
     SystemPrograms Programs;
     FileQueue Dialogs;
     QtEventLoop Events;
+    SystemFolders Disks;
     Program Whole;
 };
 

@@ -56,6 +56,7 @@ void MeasureColouring();
 void MeasureLongLine();
 void MeasureDocuments();
 void MeasureSymbols();
+void MeasureMediaBrowser();
 /// Only the first start in a process is that of a program that a person starts.
 void MeasureStartUp();
 /// `reading`: seconds that reading the same bytes takes.

@@ -4,7 +4,7 @@
 #include <QApplication>
 
 /// Without arguments measures everything; otherwise what the arguments name: loading, memory,
-/// colouring, line, documents, symbols, and alone
+/// colouring, line, documents, symbols, media, and alone
 /// startup.
 int main(int argc, char *argv[]) {
     using namespace Quillbox::Bench;
@@ -35,5 +35,7 @@ int main(int argc, char *argv[]) {
         MeasureDocuments();
     if (isWanted("symbols"))
         MeasureSymbols();
+    if (isWanted("media"))
+        MeasureMediaBrowser();
     return 0;
 }

@@ -71,6 +71,7 @@ void Program::FillCommands() {
     add("mnuPrograma_Ejecutar", [this] { Build_.mnuPrograma_Ejecutar_Click(); });
     add("mnuPrograma_CrearEXE", [this] { Build_.mnuPrograma_CrearEXE_Click(); });
     add("mnuPrograma_ModoDebug", [this] { mnuPrograma_ModoDebug_Click(DebugMode_, Main_); });
+    add("mnuHerramientas_ExploradorMedia", [this] { ShowMediaBrowser(); });
     add("mnuVentana_Anterior", [this] { Navigation_.ActivatePrevious(); });
     add("mnuVentana_Siguiente", [this] { Navigation_.ActivateNext(); });
     add("mnuVentana_Ayuda", [this] { Navigation_.mnuVentana_Ayuda_Click(); });
@@ -146,6 +147,16 @@ frmDoc *Program::MakeDocumentWindow(DocumentArea &area) {
 EditorControl &Program::CurrentEditor() { return Registry_.Current().Window->Editor(); }
 
 void Program::ShowNewProject() { frmNewProject(NewProject_, Boundary_, &Main_).exec(); }
+
+/// Hidden, the browser keeps its folder and its selection.
+void Program::ShowMediaBrowser() {
+    if (!MediaBrowserWindow_)
+        MediaBrowserWindow_ =
+            new frmMediaBrowser({Outside_.AppDir, Registry_, Main_, Outside_.Files,
+                                 Outside_.Launcher, Outside_.Dialogs, Outside_.Events},
+                                Outside_.Disks, Boundary_, &Main_);
+    MediaBrowserWindow_->ComeForward();
+}
 
 /// A window that is open already comes forward as it is; a closed one may still wait for its
 /// deletion.

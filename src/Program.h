@@ -31,6 +31,7 @@
 #include "project/ToDoList.h"
 #include "project/frmProjectInfo.h"
 #include "project/frmToDoList.h"
+#include "tools/frmMediaBrowser.h"
 
 #include <QPointer>
 
@@ -40,6 +41,7 @@ namespace Quillbox {
 
 class ConsoleProcess;
 class Files;
+class Folders;
 class PrivateProfile;
 class Programs;
 
@@ -52,6 +54,7 @@ struct Outside {
     Programs &Launcher;
     Quillbox::Dialogs &Dialogs;
     EventLoop &Events;
+    Folders &Disks;
 };
 
 /// Everything behind the main window: the records of the process and the rules that share them, in
@@ -79,6 +82,7 @@ class Program {
     frmDoc *MakeDocumentWindow(DocumentArea &area);
     EditorControl &CurrentEditor();
     void ShowNewProject();
+    void ShowMediaBrowser();
     template <typename Window, typename Rules>
     void ShowModeless(QPointer<Window> &window, Rules &rules);
 
@@ -113,6 +117,7 @@ class Program {
     ProjectCommands ProjectCommands_;
     QPointer<frmProjectInfo> ProjectInfoWindow_;
     QPointer<frmToDoList> ToDoListWindow_;
+    QPointer<frmMediaBrowser> MediaBrowserWindow_;
     ToolbarDispatch Toolbar_;
     ShutDown ShutDown_;
 };

@@ -6,6 +6,7 @@
 #include "platform/ProgramFolder.h"
 #include "platform/SystemConsoleProcess.h"
 #include "platform/SystemFiles.h"
+#include "platform/SystemFolders.h"
 #include "platform/SystemPrograms.h"
 #include "platform/qt/PlainButtonStyle.h"
 #include "platform/qt/QtDialogs.h"
@@ -45,7 +46,8 @@ int Run() {
     SystemPrograms programs;
     QtDialogs dialogs;
     QtEventLoop events;
-    const Outside outside{appDir, files, profile, console, programs, dialogs, events};
+    SystemFolders disks;
+    const Outside outside{appDir, files, profile, console, programs, dialogs, events, disks};
 
     std::optional<Program> program;
     frmLogo splash([&] { StartOrQuit(program, outside); }, events);

@@ -17,6 +17,8 @@ RuntimeError SubscriptOutOfRange() {
 
 RuntimeError FileNotFound() { return {53, QStringLiteral("No se ha encontrado el archivo")}; }
 
+RuntimeError DeviceUnavailable() { return {68, QStringLiteral("Dispositivo no disponible")}; }
+
 RuntimeError PermissionDenied() { return {70, QStringLiteral("Permiso denegado")}; }
 
 RuntimeError PathAccessError() {

@@ -23,6 +23,8 @@ RuntimeError OutOfMemory();
 RuntimeError SubscriptOutOfRange();
 /// 53: a program or file that is not there.
 RuntimeError FileNotFound();
+/// 68: a drive that is not there or holds no medium.
+RuntimeError DeviceUnavailable();
 /// 70: the system refuses the operation.
 RuntimeError PermissionDenied();
 /// 75: a path that cannot be opened for what was asked.

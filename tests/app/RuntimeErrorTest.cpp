@@ -17,6 +17,7 @@ TEST(RuntimeError, CarriesTheNumberThatUsersKnow) {
     EXPECT_EQ(Overflow().Number, 6);
     EXPECT_EQ(SubscriptOutOfRange().Number, 9);
     EXPECT_EQ(FileNotFound().Number, 53);
+    EXPECT_EQ(DeviceUnavailable().Number, 68);
     EXPECT_EQ(PermissionDenied().Number, 70);
     EXPECT_EQ(PathAccessError().Number, 75);
 }

@@ -42,6 +42,11 @@ const Picture Pictures[] = {
     {"atras", ButtonSize},
     {"adelante", ButtonSize},
     {"salir", ButtonSize},
+    {"carpeta", ButtonSize},
+    {"carpeta_abierta", ButtonSize},
+    {"archivo_imagen", ButtonSize},
+    {"archivo_modelo", ButtonSize},
+    {"archivo_sonido", ButtonSize},
     {"quillbox", QSize(64, 64)},
     {"splash", QSize(420, 260)},
 };

@@ -7,6 +7,7 @@
 #include "platform/EditorControl.h"
 #include "platform/ProfileFiles.h"
 #include "platform/SystemFiles.h"
+#include "platform/SystemFolders.h"
 #include "platform/qt/QtEventLoop.h"
 
 #include <QFile>
@@ -22,7 +23,8 @@ namespace Quillbox {
 class UiProgram : public testing::Test {
   protected:
     void Start() {
-        Program_.emplace(Outside{AppDir(), Stored, Profile, Console, Launcher, Questions, Events});
+        Program_.emplace(
+            Outside{AppDir(), Stored, Profile, Console, Launcher, Questions, Events, Disks});
         Program_->Start();
         QApplication::setActiveWindow(&Main());
         Settle();
@@ -73,6 +75,7 @@ class UiProgram : public testing::Test {
     SystemFiles Stored;
     ProfileFiles Profile;
     QtEventLoop Events;
+    SystemFolders Disks;
     std::optional<Program> Program_;
 };
 

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tools/ImagePreview.h"
+
+#include "platform/ImagePreviewWindow.h"
+#include "platform/MainWindow.h"
+
+#include <QtMath>
+
+#include <algorithm>
+
+namespace Quillbox {
+namespace {
+
+constexpr double TwipsPerPixel = 15;
+
+int PixelsOf(int twips) { return qRound(twips / TwipsPerPixel); }
+
+/// What frame and title bar take beside the picture.
+QSize FrameAllowance() { return {PixelsOf(115), PixelsOf(400)}; }
+
+/// A picture that is smaller than this in both directions is enlarged.
+constexpr int SmallestSide = 64;
+constexpr int LargestFactor = 16;
+
+} // namespace
+
+QSize ShownSize(QSize picture, QSize room) {
+    const int side = std::max({picture.width(), picture.height(), 1});
+    if (side < SmallestSide)
+        return picture * std::min(2 * SmallestSide / side, LargestFactor);
+    if (picture.width() <= room.width() && picture.height() <= room.height())
+        return picture;
+    return picture.scaled(room, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+}
+
+ImagePreview::ImagePreview(ImagePreviewWindow &window, MainWindow &main)
+    : Window_(window)
+    , Main_(main) {}
+
+void ImagePreview::Form_Load() {
+    Window_.ShowStatusBar(true);
+    Window_.PlacePicture(QPoint(0, 0));
+}
+
+void ImagePreview::Form_Paint() {
+    Window_.ShowStatusBar(false);
+    Window_.SetSize(Window_.PictureSize() + FrameAllowance());
+}
+
+void ImagePreview::Form_GotFocus() { Form_Paint(); }
+
+void ImagePreview::LostFocus() {
+    Main_.Activate();
+    Window_.Unload();
+}
+
+} // namespace Quillbox

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tools/frmDriveList.h"
+
+#include "tools/FolderPaths.h"
+
+#include <QFocusEvent>
+#include <QSignalBlocker>
+
+namespace Quillbox {
+namespace {
+
+constexpr int LettersShown = 20;
+
+QString CaptionOf(const Drive &drive) {
+    return drive.Label.isEmpty() ? drive.Path
+                                 : QStringLiteral("%1 [%2]").arg(drive.Path, drive.Label);
+}
+
+} // namespace
+
+DriveList::DriveList(Folders &disks, QWidget *parent)
+    : QComboBox(parent)
+    , Disks_(disks) {
+    setObjectName(QStringLiteral("drvUnidad"));
+    setToolTip(QStringLiteral("Unidades"));
+    setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+    setMinimumContentsLength(LettersShown);
+    Fill();
+    connect(this, &QComboBox::activated, this, &DriveList::Chosen);
+}
+
+void DriveList::Select(const QString &path) {
+    const QSignalBlocker quiet(this);
+    if (IsDrive(path))
+        setCurrentIndex(findData(path));
+}
+
+void DriveList::SelectHolding(const QString &folder) { Select(FindDriveHolding(folder, Drives_)); }
+
+void DriveList::showPopup() {
+    const QString selected = Selected();
+    Fill();
+    Select(selected);
+    QComboBox::showPopup();
+}
+
+/// The keyboard comes back from the list's own drop-down part while a choice is under way.
+void DriveList::focusInEvent(QFocusEvent *event) {
+    QComboBox::focusInEvent(event);
+    if (event->reason() != Qt::PopupFocusReason)
+        emit GotFocus();
+}
+
+void DriveList::Fill() {
+    const QSignalBlocker quiet(this);
+    Drives_ = Disks_.Drives();
+    clear();
+    for (const Drive &drive : Drives_)
+        addItem(CaptionOf(drive), drive.Path);
+}
+
+} // namespace Quillbox
