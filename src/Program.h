@@ -30,6 +30,9 @@
 #include "project/ToDoList.h"
 #include "project/frmProjectInfo.h"
 #include "project/frmToDoList.h"
+#include "tools/ExternalTools.h"
+#include "tools/HelpCommands.h"
+#include "tools/HelpLinks.h"
 
 #include <QPointer>
 
@@ -74,6 +77,7 @@ class Program {
     void FillCommands();
     void FillProjectCommands();
     void FillEditCommands();
+    void FillHelpCommands();
     void FillEvents();
     frmDoc *MakeDocumentWindow(DocumentArea &area);
     EditorControl &CurrentEditor();
@@ -105,6 +109,9 @@ class Program {
     CompilerLog CompilerLog_;
     Compiler Compiler_;
     BuildCommands Build_;
+    HelpLinks HelpLinks_;
+    HelpCommands HelpCommands_;
+    ExternalTools Tools_;
     NewProject NewProject_;
     ProjectInfo ProjectInfo_;
     ToDoList ToDoList_;
