@@ -70,6 +70,22 @@ QString FrameLink(const QString &frame) {
     return QStringLiteral("<li><a href=\"%1\">%2</a></li>").arg(source, caption);
 }
 
+/// The viewer knows imported style sheets only: a LINK element hides what follows it from the
+/// viewer unless a page writes it exactly as the viewer likes it.
+QString WithImportedStyleSheets(const QString &html) {
+    static const QRegularExpression Link(QStringLiteral("<link\\b[^>]*\\bstylesheet\\b[^>]*>"),
+                                         QRegularExpression::CaseInsensitiveOption);
+    QString page;
+    qsizetype end = 0;
+    for (const QRegularExpressionMatch &match : Link.globalMatch(html)) {
+        page += html.mid(end, match.capturedStart() - end);
+        page += QStringLiteral("<style type=\"text/css\">@import url(\"%1\");</style>")
+                    .arg(AttributeOf(match.captured(), QStringLiteral("href")));
+        end = match.capturedEnd();
+    }
+    return page + html.mid(end);
+}
+
 QString WithoutComments(QString html) {
     static const QRegularExpression Comment(QStringLiteral("<!--.*?-->"),
                                             QRegularExpression::DotMatchesEverythingOption);
@@ -109,7 +125,7 @@ QString PageOf(const QString &path, const QByteArray &bytes) {
             .arg(QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded));
     const QString text = DecodePage(bytes);
     if (PageEndings.contains(ending) || LooksLikePage(text))
-        return FramesAsLinks(text);
+        return WithImportedStyleSheets(FramesAsLinks(text));
     return text.contains(QChar::Null) ? UnreadablePage(path) : TextPage(text);
 }
 

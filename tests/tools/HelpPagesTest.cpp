@@ -84,6 +84,13 @@ TEST(ShowingAFile, ShowsThePartsOfAFramesetAsLinks) {
     EXPECT_EQ(page.count("<a "), 3);
 }
 
+TEST(ShowingAFile, ImportsTheStyleSheetsThatAPageLinks) {
+    EXPECT_EQ(PageOf("/a/x.htm", "<title>a</title><LINK rel=stylesheet href='a b.css'>"
+                                 "<link rel=icon href=b.ico><p>c"),
+              "<title>a</title><style type=\"text/css\">@import url(\"a b.css\");</style>"
+              "<link rel=icon href=b.ico><p>c");
+}
+
 TEST(ShowingAFile, LeavesAPageWithAnInnerFrameAsItIs) {
     EXPECT_EQ(PageOf("/a/x.htm", "<p>a<iframe src=b.htm></iframe>"),
               "<p>a<iframe src=b.htm></iframe>");
