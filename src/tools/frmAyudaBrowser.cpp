@@ -3,6 +3,7 @@
 
 #include "platform/Paths.h"
 #include "platform/SystemFiles.h"
+#include "platform/qt/LinkFocusStyle.h"
 #include "tools/HelpPages.h"
 #include "tools/frmAyudaFindBar.h"
 #include "tools/frmAyudaImages.h"
@@ -43,8 +44,11 @@ HelpBrowser::HelpBrowser(QWidget *parent)
     QAbstractTextDocumentLayout &layout = *document()->documentLayout();
     layout.setPaintDevice(&Device_);
     layout.registerHandler(QTextFormat::ImageObject, Images_);
+    auto *style = new LinkFocusStyle;
+    style->setParent(this);
+    setStyle(style);
     FindBar_->hide();
-    connect(FindBar_, &FindBar::Closed, this, &HelpBrowser::CloseFindBar);
+    connect(FindBar_, &FindBar::Closed, this, &HelpBrowser::PlaceFindBar);
     // What was found stays marked while the keyboard is in the bar.
     QPalette colors = palette();
     for (const QPalette::ColorRole role : {QPalette::Highlight, QPalette::HighlightedText})
@@ -118,12 +122,6 @@ void HelpBrowser::FindPrevious() {
     if (FindBar_->HasTerm())
         return FindBar_->FindPrevious();
     ShowFindBar();
-}
-
-void HelpBrowser::CloseFindBar() {
-    FindBar_->hide();
-    PlaceFindBar();
-    setFocus();
 }
 
 /// The bar stands below the page and above the horizontal scroll bar; what it covers moves up.

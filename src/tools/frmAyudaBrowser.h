@@ -46,7 +46,6 @@ class HelpBrowser final : public QTextBrowser {
     void ShowFindBar();
     void FindNext();
     void FindPrevious();
-    void CloseFindBar();
     void ZoomStep(int steps);
     void ZoomLarger() { ZoomStep(1); }
     void ZoomSmaller() { ZoomStep(-1); }

@@ -16,12 +16,13 @@ constexpr int TermWidth = 220;
 } // namespace
 
 FindBar::FindBar(QTextEdit &page)
-    : QWidget(&page)
+    : QFrame(&page)
     , Page_(page)
     , Term_(new QLineEdit)
     , Result_(new QLabel) {
     setObjectName(QStringLiteral("barBuscarEnPagina"));
     setAutoFillBackground(true);
+    setFrameShape(QFrame::StyledPanel);
     setCursor(Qt::ArrowCursor);
     Build();
     connect(Term_, &QLineEdit::textChanged, this, &FindBar::FindWhileTyping);
@@ -100,7 +101,10 @@ void FindBar::FindWhileTyping() {
     Find({});
 }
 
+/// A bar that hides with the keyboard in it would hand it to the page's next link, and what was
+/// found would lose its mark.
 void FindBar::Close() {
+    Page_.setFocus();
     hide();
     emit Closed();
 }

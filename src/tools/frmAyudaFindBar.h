@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QFrame>
 #include <QTextDocument>
-#include <QWidget>
 
 class QLabel;
 class QLineEdit;
@@ -12,7 +12,7 @@ namespace Quillbox {
 
 /// The slim bar that finds a text in the page above it. Letter case does not matter, and the search
 /// goes round at the ends of the page.
-class FindBar final : public QWidget {
+class FindBar final : public QFrame {
     Q_OBJECT
   public:
     /// A child of `page`, which places it.

@@ -99,6 +99,7 @@ TEST_F(FindingInAPage, ClosesWithEscapeAndGoesOnFromThePage) {
     Press(Qt::Key_Escape);
     EXPECT_FALSE(Bar()->isVisible());
     EXPECT_EQ(QApplication::focusWidget(), &Browser);
+    EXPECT_EQ(Found(), First);
     Press(Qt::Key_F3);
     EXPECT_EQ(Found(), Second);
     EXPECT_FALSE(Bar()->isVisible());
