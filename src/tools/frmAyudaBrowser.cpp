@@ -148,8 +148,6 @@ void HelpBrowser::SetZoom(double factor) {
     Device_.Factor = factor;
     Images_->Zoom = factor;
     document()->markContentsDirty(0, document()->characterCount());
-    document()->adjustSize();
-    document()->setTextWidth(viewport()->width());
     bar.setValue(qRound(place * bar.maximum()));
 }
 
