@@ -118,6 +118,22 @@ QString DecodePage(const QByteArray &bytes) {
     return mayBeUtf8 && !decoder.hasError() ? text : FromWindows1252(bytes);
 }
 
+QString WithSizesInPoints(const QString &text) {
+    static const QRegularExpression Size(
+        QStringLiteral(R"re((\bfont-size\s*:\s*)(\d+(?:\.\d+)?)px)re"),
+        QRegularExpression::CaseInsensitiveOption);
+    constexpr double PointsPerPixel = 0.75;
+    QString result;
+    qsizetype end = 0;
+    for (const QRegularExpressionMatch &match : Size.globalMatch(text)) {
+        result += text.mid(end, match.capturedStart() - end) + match.captured(1) +
+                  QString::number(match.captured(2).toDouble() * PointsPerPixel) +
+                  QStringLiteral("pt");
+        end = match.capturedEnd();
+    }
+    return result + text.mid(end);
+}
+
 QString PageOf(const QString &path, const QByteArray &bytes) {
     const QString ending = path.trimmed().section(u'.', -1).toLower();
     if (PictureEndings.contains(ending))
@@ -125,7 +141,7 @@ QString PageOf(const QString &path, const QByteArray &bytes) {
             .arg(QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded));
     const QString text = DecodePage(bytes);
     if (PageEndings.contains(ending) || LooksLikePage(text))
-        return WithImportedStyleSheets(FramesAsLinks(text));
+        return WithSizesInPoints(WithImportedStyleSheets(FramesAsLinks(text)));
     return text.contains(QChar::Null) ? UnreadablePage(path) : TextPage(text);
 }
 

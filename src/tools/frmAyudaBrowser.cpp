@@ -78,7 +78,7 @@ QVariant HelpBrowser::loadResource(int type, const QUrl &name) {
         return {};
     if (type == QTextDocument::ImageResource)
         return ReadPicture(*bytes, devicePixelRatioF());
-    return DecodePage(*bytes);
+    return WithSizesInPoints(DecodePage(*bytes));
 }
 
 QVariant HelpBrowser::LoadPage(const QUrl &url) const {

@@ -96,6 +96,13 @@ TEST(ShowingAFile, LeavesAPageWithAnInnerFrameAsItIs) {
               "<p>a<iframe src=b.htm></iframe>");
 }
 
+TEST(ShowingAFile, MeasuresLettersInPointsSoThatTheyCanBeZoomed) {
+    EXPECT_EQ(PageOf("/a/x.htm", "<p style='FONT-SIZE: 16px; margin: 8px'>16px"),
+              "<p style='FONT-SIZE: 12pt; margin: 8px'>16px");
+    EXPECT_EQ(WithSizesInPoints("p{font-size:14.0px}b{font-size:9pt}"),
+              "p{font-size:10.5pt}b{font-size:9pt}");
+}
+
 TEST(MissingPage, NamesThePage) {
     EXPECT_TRUE(MissingPage("/a/<b>.htm").contains("<b>/a/&lt;b&gt;.htm</b>"));
 }

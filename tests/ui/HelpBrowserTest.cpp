@@ -226,7 +226,7 @@ TEST(ReadingAPicture, GivesNothingForWhatIsNoPicture) {
 }
 
 TEST_F(HelpBrowserTest, MakesEverythingLargerAndSmallerWithTheKeyboard) {
-    Show("<p style='font-size: 12pt'>texto</p><p>otro</p>");
+    Show("<p style='font-size: 12pt'>texto</p><p style='font-size: 16px'>otro</p>");
     const double before = Height();
     QTest::keyClick(&Browser, Qt::Key_Plus, Qt::ControlModifier);
     QTest::keyClick(&Browser, Qt::Key_Plus, Qt::ControlModifier);

@@ -7,8 +7,8 @@
 namespace Quillbox {
 
 /// A widget's screen as a text layout sees it, with a resolution that is `Factor` times its own. A
-/// layout that uses it makes everything larger, sizes that a page gives in points and pixels
-/// included, without a change of the page. Nothing can be painted on it.
+/// layout that uses it makes everything larger without a change of the page, but for letters whose
+/// size a page gives in pixels. Nothing can be painted on it.
 class ZoomedDevice final : public QPaintDevice {
   public:
     explicit ZoomedDevice(const QWidget &widget)
