@@ -5,7 +5,9 @@
 #include "editor/LineCommands.h"
 #include "editor/WordCompletion.h"
 #include "platform/EditorControl.h"
+#include "platform/HelpViewer.h"
 #include "project/frmNewProject.h"
+#include "tools/frmAcercaDe.h"
 
 namespace Quillbox {
 
@@ -28,6 +30,9 @@ Program::Program(const Outside &outside)
     , Compiler_(outside.Console, outside.Events, Main_, CompilerLog_)
     , Build_({Registry_, Documents_, Settings_, Compiler_, CompilerLog_, outside.Launcher,
               outside.Dialogs})
+    , HelpLinks_(Registry_, Documents_, Scanner_, outside.Launcher)
+    , HelpCommands_(Registry_, Settings_, Main_.Help(), Navigation_)
+    , Tools_(outside.AppDir, outside.Launcher, outside.Files, outside.Dialogs)
     , NewProject_(Project_, outside.Profile, outside.Dialogs)
     , ProjectInfo_({Project_, outside.Dialogs, outside.Files, Documents_, Main_, outside.Events})
     , ToDoList_(Project_, outside.Dialogs)
@@ -39,6 +44,7 @@ Program::Program(const Outside &outside)
     FillCommands();
     FillProjectCommands();
     FillEditCommands();
+    FillHelpCommands();
     FillEvents();
 }
 
@@ -75,13 +81,26 @@ void Program::FillCommands() {
     add("mnuVentana_Anterior", [this] { Navigation_.ActivatePrevious(); });
     add("mnuVentana_Siguiente", [this] { Navigation_.ActivateNext(); });
     add("mnuVentana_Ayuda", [this] { Navigation_.mnuVentana_Ayuda_Click(); });
-    add("mnuAyuda_Contextual", [this] { Navigation_.mnuVentana_Ayuda_Click(); });
-    add("tbEstandar_Inicio", [this] {
-        Main_.Help().Navigate(Settings_.HelpPath);
-        Navigation_.mnuVentana_Ayuda_Click();
-    });
+}
+
+void Program::FillHelpCommands() {
+    const auto add = [this](const char *name, std::function<void()> command) {
+        Commands_[QString::fromUtf8(name)] = std::move(command);
+    };
+    add("mnuAyuda_Acercade", [this] { frmAcercaDe(&Main_).exec(); });
+    add("mnuAyuda_Contextual", [this] { HelpCommands_.mnuAyuda_Contextual_Click(); });
+    add("mnuAyuda_Inkwell", [this] { Tools_.mnuAyuda_Inkwell_Click(); });
+    add("mnuHerramientas_Calculadora", [this] { Tools_.mnuHerramientas_Calculadora_Click(); });
+    add("mnuHerramientas_ScaffolderGenerator",
+        [this] { Tools_.mnuHerramientas_ScaffolderGenerator_Click(); });
+    add("tbEstandar_Inicio", [this] { HelpCommands_.tbEstandar_Inicio_Click(); });
     add("tbEstandar_Atras", [this] { Main_.Help().GoBack(); });
     add("tbEstandar_Adelante", [this] { Main_.Help().GoForward(); });
+    Main_.Help().SetEvents(
+        {[this](const QString &url) { return HelpLinks_.htmlAyuda_BeforeNavigate(url); },
+         [this](int command, bool enabled) {
+             htmlAyuda_CommandStateChange(command, enabled, Main_);
+         }});
 }
 
 void Program::FillProjectCommands() {
@@ -146,7 +165,10 @@ frmDoc *Program::MakeDocumentWindow(DocumentArea &area) {
 
 EditorControl &Program::CurrentEditor() { return Registry_.Current().Window->Editor(); }
 
-void Program::ShowNewProject() { frmNewProject(NewProject_, Boundary_, &Main_).exec(); }
+void Program::ShowNewProject() {
+    const auto startScaffolder = [this] { Tools_.mnuHerramientas_ScaffolderGenerator_Click(); };
+    frmNewProject(NewProject_, Boundary_, startScaffolder, &Main_).exec();
+}
 
 /// Hidden, the browser keeps its folder and its selection.
 void Program::ShowMediaBrowser() {

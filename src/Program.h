@@ -31,6 +31,9 @@
 #include "project/ToDoList.h"
 #include "project/frmProjectInfo.h"
 #include "project/frmToDoList.h"
+#include "tools/ExternalTools.h"
+#include "tools/HelpCommands.h"
+#include "tools/HelpLinks.h"
 #include "tools/frmMediaBrowser.h"
 
 #include <QPointer>
@@ -78,6 +81,7 @@ class Program {
     void FillCommands();
     void FillProjectCommands();
     void FillEditCommands();
+    void FillHelpCommands();
     void FillEvents();
     frmDoc *MakeDocumentWindow(DocumentArea &area);
     EditorControl &CurrentEditor();
@@ -111,6 +115,9 @@ class Program {
     CompilerLog CompilerLog_;
     Compiler Compiler_;
     BuildCommands Build_;
+    HelpLinks HelpLinks_;
+    HelpCommands HelpCommands_;
+    ExternalTools Tools_;
     NewProject NewProject_;
     ProjectInfo ProjectInfo_;
     ToDoList ToDoList_;

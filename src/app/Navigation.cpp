@@ -5,6 +5,7 @@
 #include "documents/ActivateDocument.h"
 #include "documents/DocumentRegistry.h"
 #include "documents/SyncTabs.h"
+#include "platform/HelpViewer.h"
 #include "platform/MainWindow.h"
 
 #include <algorithm>

@@ -4,6 +4,7 @@
 #include "app/CommandState.h"
 #include "app/WordFiles.h"
 #include "app/settings.h"
+#include "platform/HelpViewer.h"
 #include "platform/LanguageRegistration.h"
 #include "platform/MainWindow.h"
 #include "platform/Paths.h"

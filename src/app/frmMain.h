@@ -15,6 +15,7 @@ namespace Quillbox {
 class DocumentArea;
 class DocumentTabs;
 class EventBoundary;
+class HelpViewer;
 class NavigationBar;
 class frmAyuda;
 class frmDoc;

@@ -117,7 +117,7 @@ void frmMain::BuildDocumentArea() {
     tabDocuments =
         new DocumentTabs([this](int tab) { Boundary_.Run([&] { Events_.TabClick(tab); }); });
     Area_ = new DocumentArea;
-    HelpWindow_ = new frmAyuda(*Area_);
+    HelpWindow_ = new frmAyuda(*Area_, Boundary_);
     auto *layout = new QVBoxLayout(centre);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
@@ -126,10 +126,6 @@ void frmMain::BuildDocumentArea() {
     setCentralWidget(centre);
 
     connect(Area_, &QMdiArea::subWindowActivated, this, &frmMain::OnChildActivated);
-    connect(HelpWindow_, &frmAyuda::BackAvailable, this,
-            [this](bool available) { EnableToolButtons(QStringLiteral("Atrás"), available); });
-    connect(HelpWindow_, &frmAyuda::ForwardAvailable, this,
-            [this](bool available) { EnableToolButtons(QStringLiteral("Adelante"), available); });
 }
 
 void frmMain::BuildLog() {

@@ -60,17 +60,4 @@ class NavigationLists {
     virtual int SelectedItem(NavigationList list) const = 0;
 };
 
-/// The help page's viewer.
-class HelpViewer {
-  public:
-    virtual ~HelpViewer() = default;
-
-    virtual void Show() = 0;
-    virtual void Navigate(const QString &page) = 0;
-    virtual void GoBack() = 0;
-    virtual void GoForward() = 0;
-    /// Brings the page to the front and gives it the keyboard.
-    virtual void SetFocus() = 0;
-};
-
 } // namespace Quillbox

@@ -9,6 +9,7 @@ namespace Quillbox {
 class SystemPrograms : public Programs {
   public:
     void Start(const QString &commandLine, WindowStyle style) override;
+    void OpenAddress(const QString &address) override;
     void SetEnvironmentVariable(const QString &name, const QString &value) override;
 };
 

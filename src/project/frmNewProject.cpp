@@ -18,10 +18,12 @@ constexpr int BrowseColumn = 2;
 
 } // namespace
 
-frmNewProject::frmNewProject(NewProject &rules, const EventBoundary &boundary, QWidget *owner)
+frmNewProject::frmNewProject(NewProject &rules, const EventBoundary &boundary,
+                             std::function<void()> startScaffolder, QWidget *owner)
     : QDialog(owner)
     , Rules_(rules)
-    , Boundary_(boundary) {
+    , Boundary_(boundary)
+    , StartScaffolder_(std::move(startScaffolder)) {
     setObjectName(QStringLiteral("frmNewProject"));
     setWindowTitle(QStringLiteral("Nuevo proyecto"));
     auto *layout = new QVBoxLayout(this);
@@ -70,7 +72,7 @@ QPushButton *frmNewProject::AddBrowseButton(const QString &name, const QString &
 void frmNewProject::BuildButtons() {
     auto *scaffolder =
         NewButton(QStringLiteral("cmdScaffolder"), QStringLiteral("&Generador de código..."), this);
-    scaffolder->setEnabled(false); // there is no command for it yet
+    connect(scaffolder, &QPushButton::clicked, this, [this] { Boundary_.Run(StartScaffolder_); });
     auto *accept = NewButton(QStringLiteral("cmdAceptar"), QStringLiteral("&Aceptar"), this);
     accept->setDefault(true);
     auto *cancel = NewButton(QStringLiteral("cmdCancelar"), QStringLiteral("&Cancelar"), this);

@@ -3,6 +3,8 @@
 
 #include <QDialog>
 
+#include <functional>
+
 class QGridLayout;
 class QLineEdit;
 class QPushButton;
@@ -16,7 +18,9 @@ class NewProject;
 class frmNewProject final : public QDialog {
     Q_OBJECT
   public:
-    frmNewProject(NewProject &rules, const EventBoundary &boundary, QWidget *owner);
+    /// `startScaffolder` starts the code generator.
+    frmNewProject(NewProject &rules, const EventBoundary &boundary,
+                  std::function<void()> startScaffolder, QWidget *owner);
 
   private:
     void BuildFields();
@@ -26,6 +30,7 @@ class frmNewProject final : public QDialog {
 
     NewProject &Rules_;
     const EventBoundary &Boundary_;
+    std::function<void()> StartScaffolder_;
     QGridLayout *Grid_;
     QLineEdit *txtTitle = nullptr;
     QLineEdit *txtAuthor = nullptr;

@@ -2,73 +2,45 @@
 #include "tools/frmAyuda.h"
 
 #include "app/frmMainArea.h"
-#include "platform/Paths.h"
+#include "platform/qt/EventBoundary.h"
+#include "tools/frmAyudaBrowser.h"
 
 #include <QCloseEvent>
-#include <QFileInfo>
+#include <QLabel>
 #include <QStatusBar>
-#include <QTextBrowser>
-#include <QUrl>
-#include <QVBoxLayout>
 
 namespace Quillbox {
 namespace {
 
-QString MissingPageText(const QString &page) {
-    return QStringLiteral("<h2>No se encuentra la página</h2><p>La página de ayuda <b>%1</b> no "
-                          "existe o no se puede leer.</p>")
-        .arg(page.toHtmlEscaped());
-}
-
-/// Shows a page that is not there as one that says so: it is part of the history like any other.
-class HelpBrowser final : public QTextBrowser {
-  public:
-    QVariant loadResource(int type, const QUrl &url) override {
-        if (type == QTextDocument::HtmlResource && !QFileInfo(url.toLocalFile()).isFile())
-            return MissingPageText(url.toLocalFile());
-        return QTextBrowser::loadResource(type, url);
-    }
-};
+constexpr int PanelIndent = 6;
 
 } // namespace
 
-frmAyuda::frmAyuda(DocumentArea &area)
+frmAyuda::frmAyuda(DocumentArea &area, const EventBoundary &boundary)
     : Area_(area)
-    , htmlAyuda(new HelpBrowser) {
+    , Boundary_(boundary)
+    , Client_(new QWidget(this))
+    , htmlAyuda(new HelpBrowser(Client_))
+    , stbBarraEstado(new QStatusBar(Client_)) {
     setObjectName(QStringLiteral("frmAyuda"));
     setWindowTitle(QStringLiteral("Ayuda"));
     htmlAyuda->setObjectName(QStringLiteral("htmlAyuda"));
-    htmlAyuda->setFrameShape(QFrame::NoFrame);
-
-    auto *statusBar = new QStatusBar;
-    statusBar->setObjectName(QStringLiteral("stbBarraEstado"));
-    statusBar->setSizeGripEnabled(false);
-    auto *panel = new QLabel(QStringLiteral("Ayuda de Quillbox"));
-    panel->setIndent(6);
-    panel->setObjectName(QStringLiteral("stbBarraEstado_Panel1"));
-    statusBar->addWidget(panel, 1);
-
-    auto *client = new QWidget;
-    auto *layout = new QVBoxLayout(client);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(htmlAyuda);
-    layout->addWidget(statusBar);
-    setWidget(client);
-    client->setFocusProxy(htmlAyuda);
+    BuildStatusBar();
+    ConnectBrowser();
+    setWidget(Client_);
+    Client_->setFocusProxy(htmlAyuda);
+    Client_->installEventFilter(this);
     Area_.Add(this);
-    connect(htmlAyuda, &QTextBrowser::backwardAvailable, this, &frmAyuda::BackAvailable);
-    connect(htmlAyuda, &QTextBrowser::forwardAvailable, this, &frmAyuda::ForwardAvailable);
 }
+
+void frmAyuda::SetEvents(const HelpViewerEvents &events) { Events_ = events; }
 
 void frmAyuda::Show() {
     Area_.Show(this);
     showMaximized();
 }
 
-void frmAyuda::Navigate(const QString &page) {
-    htmlAyuda->setSource(QUrl::fromLocalFile(SystemPath(page)), QTextDocument::HtmlResource);
-}
+void frmAyuda::Navigate(const QString &page) { htmlAyuda->Navigate(page); }
 
 void frmAyuda::GoBack() { htmlAyuda->backward(); }
 
@@ -81,6 +53,45 @@ void frmAyuda::SetFocus() {
     htmlAyuda->setFocus();
 }
 
+bool frmAyuda::eventFilter(QObject *watched, QEvent *event) {
+    if (watched == Client_ && (event->type() == QEvent::Resize || event->type() == QEvent::Paint))
+        LayOut();
+    return QMdiSubWindow::eventFilter(watched, event);
+}
+
 void frmAyuda::closeEvent(QCloseEvent *event) { event->ignore(); }
+
+void frmAyuda::BuildStatusBar() {
+    stbBarraEstado->setObjectName(QStringLiteral("stbBarraEstado"));
+    stbBarraEstado->setSizeGripEnabled(false);
+    Panel_ = new QLabel(QStringLiteral("Ayuda de Quillbox"));
+    Panel_->setIndent(PanelIndent);
+    Panel_->setObjectName(QStringLiteral("stbBarraEstado_Panel1"));
+    stbBarraEstado->addWidget(Panel_, 1);
+}
+
+void frmAyuda::ConnectBrowser() {
+    htmlAyuda->BeforeNavigate = [this](const QString &url) {
+        NavigationAnswer answer = NavigationAnswer::Cancel;
+        Boundary_.Run([&] { answer = Events_.BeforeNavigate(url); });
+        return answer;
+    };
+    const auto report = [this](auto signal, int command) {
+        connect(htmlAyuda, signal, this, [this, command](bool available) {
+            Boundary_.Run([&] { Events_.CommandStateChange(command, available); });
+        });
+    };
+    report(&QTextBrowser::backwardAvailable, BackCommand);
+    report(&QTextBrowser::forwardAvailable, ForwardCommand);
+}
+
+/// Browser and panel are as wide as the window without its frame.
+void frmAyuda::LayOut() {
+    const int barHeight = stbBarraEstado->sizeHint().height();
+    const int barTop = Client_->height() - barHeight;
+    htmlAyuda->setGeometry(0, 0, Client_->width(), barTop);
+    Panel_->setMinimumWidth(Client_->width());
+    stbBarraEstado->setGeometry(0, barTop, Client_->width(), barHeight);
+}
 
 } // namespace Quillbox

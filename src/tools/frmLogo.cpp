@@ -11,8 +11,24 @@ namespace {
 const QString CreditLine = QStringLiteral("Quillbox v1.0 · El equipo de Quillbox · 2026");
 
 constexpr QSize PictureSize(420, 260);
-constexpr QRect TitleArea(24, 182, 372, 40);
-constexpr QRect CreditArea(24, 222, 372, 26);
+constexpr QRect TitleArea(24, 184, 372, 44);
+constexpr QRect CreditArea(24, 235, 372, 20);
+constexpr int TitlePixels = 34;
+constexpr int CreditPixels = 12;
+constexpr const char *TitleColor = "#ffffff";
+constexpr const char *CreditColor = "#b9d2f5";
+
+/// Sized to the picture, whatever the desktop's fonts are. Where Tahoma is missing its relatives
+/// stand in.
+QFont PictureFont(int pixels, QFont::Weight weight) {
+    QFont font;
+    font.setFamilies({QStringLiteral("Tahoma"), QStringLiteral("Verdana"),
+                      QStringLiteral("DejaVu Sans"), QStringLiteral("Noto Sans")});
+    font.setStyleHint(QFont::SansSerif);
+    font.setPixelSize(pixels);
+    font.setWeight(weight);
+    return font;
+}
 
 QLabel *AddLabel(QWidget *parent, const QString &name, const QRect &area) {
     auto *label = new QLabel(parent);
@@ -21,13 +37,19 @@ QLabel *AddLabel(QWidget *parent, const QString &name, const QRect &area) {
     return label;
 }
 
-QLabel *AddText(QWidget *parent, const QString &name, const QRect &area, const QString &text,
-                const QFont &font) {
+struct TextStyle {
+    QFont Font;
+    QColor Color;
+};
+
+void AddText(QWidget *parent, const QString &name, const QRect &area, const QString &text,
+             const TextStyle &style) {
     QLabel *label = AddLabel(parent, name, area);
     label->setText(text);
-    label->setFont(font);
-    label->setStyleSheet(QStringLiteral("color: #263238"));
-    return label;
+    label->setFont(style.Font);
+    QPalette colors = label->palette();
+    colors.setColor(QPalette::WindowText, style.Color);
+    label->setPalette(colors);
 }
 
 } // namespace
@@ -47,8 +69,9 @@ frmLogo::frmLogo(std::function<void()> showMainWindow, EventLoop &eventLoop)
     AddLabel(this, QStringLiteral("Picture1"), QRect({0, 0}, PictureSize))
         ->setPixmap(QIcon(QStringLiteral(":/icons/splash.svg")).pixmap(PictureSize));
     AddText(this, QStringLiteral("Label1"), TitleArea, QStringLiteral("Quillbox"),
-            QFont(QStringLiteral("Tahoma"), 22, QFont::Bold));
-    AddText(this, QStringLiteral("lblCredit"), CreditArea, CreditLine, font());
+            {PictureFont(TitlePixels, QFont::Bold), TitleColor});
+    AddText(this, QStringLiteral("lblCredit"), CreditArea, CreditLine,
+            {PictureFont(CreditPixels, QFont::Normal), CreditColor});
     tmrTimer.setObjectName(QStringLiteral("tmrTimer"));
     tmrTimer.setTimerType(Qt::PreciseTimer); // the others may tick up to a twentieth early
     tmrTimer.setInterval(SplashMilliseconds);

@@ -32,6 +32,8 @@ class FakeEditor : public EditorControl {
     QString Word;
     TokenClass WordClass = TokenClass::Text;
     bool Possible = true; ///< the answer of every Can...
+    mutable int SelectionQueries = 0;
+    mutable int TextQueries = 0;
 
     void SetLanguage(const QString &name) override { Log_.Add("editor.SetLanguage", name); }
     void SetColorSyntax(bool on) override { Log_.Add("editor.SetColorSyntax", on); }
@@ -62,7 +64,10 @@ class FakeEditor : public EditorControl {
     QString CurrentWord() const override { return Word; }
     TokenClass CurrentTokenClass() const override { return WordClass; }
 
-    TextRange GetSel() const override { return Selection; }
+    TextRange GetSel() const override {
+        ++SelectionQueries;
+        return Selection;
+    }
     void DeleteSel() override { Log_.Add("editor.DeleteSel"); }
     bool CanCopy() const override { return Possible; }
     void Copy() override { Log_.Add("editor.Copy"); }
@@ -92,7 +97,10 @@ class FakeEditor : public EditorControl {
         return true;
     }
     bool IsModified() const override { return Modified; }
-    QString Text() const override { return Content; }
+    QString Text() const override {
+        ++TextQueries;
+        return Content;
+    }
     void TakeContentsFrom(EditorControl &other) override {
         Log_.Add("editor.TakeContentsFrom");
         Content = other.Text();

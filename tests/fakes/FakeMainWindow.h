@@ -3,6 +3,7 @@
 
 #include "fakes/CallLog.h"
 #include "fakes/FakeEditor.h"
+#include "platform/HelpViewer.h"
 #include "platform/MainWindow.h"
 
 #include <functional>
@@ -98,9 +99,8 @@ class FakeNavigationLists : public NavigationLists {
         : Log_(log) {}
 
     std::map<NavigationList, std::vector<QString>> Items;
-    std::map<NavigationList, int> Selected = {{NavigationList::Functions, -1},
-                                              {NavigationList::Labels, -1},
-                                              {NavigationList::Types, -1}};
+    std::map<NavigationList, int> Selected = {
+        {NavigationList::Functions, -1}, {NavigationList::Labels, -1}, {NavigationList::Types, -1}};
 
     int ItemCount(NavigationList list) const override {
         const auto found = Items.find(list);
@@ -125,6 +125,9 @@ class FakeHelpViewer : public HelpViewer {
     explicit FakeHelpViewer(CallLog &log)
         : Log_(log) {}
 
+    HelpViewerEvents Events;
+
+    void SetEvents(const HelpViewerEvents &events) override { Events = events; }
     void Show() override { Log_.Add("help.Show"); }
     void Navigate(const QString &page) override { Log_.Add("help.Navigate", page); }
     void GoBack() override { Log_.Add("help.GoBack"); }

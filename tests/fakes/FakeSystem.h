@@ -189,6 +189,11 @@ class FakePrograms : public Programs {
         if (Missing)
             throw FileNotFound();
     }
+    void OpenAddress(const QString &address) override {
+        Log_.Add("programs.OpenAddress", address);
+        if (Missing)
+            throw FileNotFound();
+    }
     void SetEnvironmentVariable(const QString &name, const QString &value) override {
         Log_.Add("programs.SetEnvironmentVariable", name, value);
     }

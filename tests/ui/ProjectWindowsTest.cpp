@@ -6,6 +6,7 @@
 
 #include <QClipboard>
 #include <QDialog>
+#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -261,10 +262,25 @@ TEST_F(ProjectWindows, KeepTheChosenPathsOfANewProjectWhenAChooserIsCancelled) {
     });
 }
 
-TEST_F(ProjectWindows, KeepTheGeneratorDisabledWhileItHasNoCommand) {
-    InNewProject([](QDialog &dialog) {
-        EXPECT_FALSE(In<QPushButton>(dialog, "cmdScaffolder").isEnabled());
+TEST_F(ProjectWindows, WarnAboutAMissingGeneratorAndStayOpen) {
+    Questions.Messages.clear();
+    InNewProject([&](QDialog &dialog) {
+        Click(dialog, "cmdScaffolder");
+        EXPECT_TRUE(dialog.isVisible());
     });
+    ASSERT_EQ(Questions.Messages.size(), 1U);
+    EXPECT_EQ(Questions.Messages[0].Text, QStringLiteral("El archivo ") +
+                                              PathOf("Scaffolder/Scaffolder.exe") +
+                                              QStringLiteral(" no existe."));
+    EXPECT_TRUE(Log.CallsOf({"programs."}).empty());
+}
+
+TEST_F(ProjectWindows, StartTheGenerator) {
+    QDir(Folder.path()).mkpath("Scaffolder");
+    const QString generator = Write("Scaffolder/Scaffolder.exe", "MZ");
+    InNewProject([](QDialog &dialog) { Click(dialog, "cmdScaffolder"); });
+    EXPECT_EQ(Log.CallsOf({"programs."}),
+              std::vector{"programs.Start " + generator.toStdString() + " 1"});
 }
 
 TEST_F(ProjectWindows, ShowAtOnceWhatAFileCannotHold) {

@@ -4,6 +4,7 @@
 #include "platform/CommandLine.h"
 #include "platform/Paths.h"
 #include "platform/ProgramFolder.h"
+#include "platform/posix/DesktopPrograms.h"
 
 #include <QDir>
 #include <QFile>
@@ -13,7 +14,6 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <optional>
 
 namespace Quillbox {
 
@@ -76,15 +76,6 @@ struct ProgramSearch {
     }
 };
 
-std::optional<QString> FindWine() {
-    for (const QString &folder : SearchPath()) {
-        const QFileInfo wine(folder + QStringLiteral("/wine"));
-        if (wine.isFile() && wine.isExecutable())
-            return wine.filePath();
-    }
-    return std::nullopt;
-}
-
 /// Programs for Windows take "/home/..." for an option. A short word such as "/o" is one indeed,
 /// though its folder is there.
 bool IsPathForWine(const QString &argument) {
@@ -104,7 +95,7 @@ std::variant<Execution, int> ExecutionOf(const QString &program, const QString &
     Execution execution{QFile::encodeName(program), {QFile::encodeName(program)}};
     const bool forWine = IsWindowsProgram(program);
     if (forWine) {
-        const std::optional<QString> wine = FindWine();
+        const std::optional<QString> wine = FindOnSearchPath(QStringLiteral("wine"));
         if (!wine)
             return ENOEXEC;
         execution.File = QFile::encodeName(*wine);
@@ -123,7 +114,19 @@ std::variant<Execution, int> FindExecution(const QString &commandLine) {
         if (const std::optional<QString> program = search.Find(call.Program))
             return ExecutionOf(*program, call.Arguments);
     }
+    if (search.Error == ENOENT)
+        if (const std::optional<Execution> program = FindDesktopProgram(commandLine))
+            return *program;
     return search.Error;
+}
+
+std::optional<QString> FindOnSearchPath(const QString &name) {
+    for (const QString &folder : SearchPath()) {
+        const QFileInfo program(folder + u'/' + name);
+        if (program.isFile() && program.isExecutable())
+            return program.filePath();
+    }
+    return std::nullopt;
 }
 
 } // namespace Quillbox

@@ -2,6 +2,7 @@
 #include "platform/SystemPrograms.h"
 
 #include "platform/RuntimeError.h"
+#include "platform/posix/DesktopPrograms.h"
 #include "platform/posix/Spawn.h"
 
 #include <QFile>
@@ -12,10 +13,16 @@ namespace Quillbox {
 
 namespace {
 
-RuntimeError ErrorOfStart(int code) {
+RuntimeError MissingProgram(const QString &commandLine) {
+    if (const std::optional<QString> text = MissingDesktopProgram(commandLine))
+        return {FileNotFound().Number, *text};
+    return FileNotFound();
+}
+
+RuntimeError ErrorOfStart(int code, const QString &commandLine) {
     switch (code) {
     case ENOENT:
-        return FileNotFound();
+        return MissingProgram(commandLine);
     case EACCES:
     case EPERM:
         return PermissionDenied();
@@ -30,8 +37,12 @@ RuntimeError ErrorOfStart(int code) {
 void SystemPrograms::Start(const QString &commandLine, WindowStyle) {
     const SpawnResult spawned = Spawn(commandLine, std::nullopt, ChildSession::ItsOwn);
     if (spawned.Error != 0)
-        throw ErrorOfStart(spawned.Error);
+        throw ErrorOfStart(spawned.Error, commandLine);
     WaitForChildInBackground(spawned.Process);
+}
+
+void SystemPrograms::OpenAddress(const QString &address) {
+    Start(QStringLiteral("explorer.exe ") + address, WindowStyle::Normal);
 }
 
 void SystemPrograms::SetEnvironmentVariable(const QString &name, const QString &value) {

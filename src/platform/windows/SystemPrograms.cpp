@@ -4,6 +4,8 @@
 #include "platform/RuntimeError.h"
 #include "platform/windows/WindowsApi.h"
 
+#include <shellapi.h>
+
 namespace Quillbox {
 
 namespace {
@@ -35,6 +37,14 @@ void SystemPrograms::Start(const QString &commandLine, WindowStyle style) {
         throw ErrorOfStart(::GetLastError());
     ::CloseHandle(process.hThread);
     ::CloseHandle(process.hProcess);
+}
+
+void SystemPrograms::OpenAddress(const QString &address) {
+    // The answer is above 32 when all went well, otherwise an error number.
+    const auto answer = reinterpret_cast<INT_PTR>(::ShellExecuteW(
+        nullptr, L"open", address.toStdWString().c_str(), nullptr, nullptr, SW_SHOWNORMAL));
+    if (answer <= 32)
+        throw ErrorOfStart(static_cast<DWORD>(answer));
 }
 
 void SystemPrograms::SetEnvironmentVariable(const QString &name, const QString &value) {
