@@ -8,8 +8,10 @@ QString Link(const QString &address, const QString &text) {
 }
 
 QString PageOf(const QString &title, const QStringList &navigation, const QString &body) {
-    const QString links = QStringLiteral("<p class=\"navegacion\">") +
-                          navigation.join(QStringLiteral(" &middot; ")) + QStringLiteral("</p>\n");
+    const QString links = QStringLiteral("<table width=\"100%\" border=\"0\" cellspacing=\"0\" "
+                                         "cellpadding=\"6\"><tr><td class=\"navegacion\">") +
+                          navigation.join(QStringLiteral(" &middot; ")) +
+                          QStringLiteral("</td></tr></table>\n");
     const QString heading = title.toHtmlEscaped();
     return QStringLiteral("<!DOCTYPE html>\n<html lang=\"es\">\n<head>\n"
                           "<meta charset=\"utf-8\">\n<title>") +
@@ -22,8 +24,8 @@ QString PageOf(const QString &title, const QStringList &navigation, const QStrin
 }
 
 QString CodeBox(const QStringList &lines) {
-    return QStringLiteral("<table class=\"codigo\" width=\"100%\" border=\"0\" cellspacing=\"0\" "
-                          "cellpadding=\"8\"><tr><td><pre>") +
+    return QStringLiteral("<table width=\"100%\" border=\"0\" cellspacing=\"0\" "
+                          "cellpadding=\"8\"><tr><td class=\"codigo\"><pre>") +
            lines.join(u'\n').toHtmlEscaped() + QStringLiteral("</pre></td></tr></table>\n");
 }
 
