@@ -8,10 +8,13 @@ QString Link(const QString &address, const QString &text) {
 }
 
 QString PageOf(const QString &title, const QStringList &navigation, const QString &body) {
-    const QString links = QStringLiteral("<table width=\"100%\" border=\"0\" cellspacing=\"0\" "
-                                         "cellpadding=\"6\"><tr><td class=\"navegacion\">") +
-                          navigation.join(QStringLiteral(" &middot; ")) +
-                          QStringLiteral("</td></tr></table>\n");
+    const auto bar = [&](const QString &place) {
+        return QStringLiteral("<table%1 width=\"100%\" border=\"0\" cellspacing=\"0\" "
+                              "cellpadding=\"6\"><tr><td class=\"navegacion\">")
+                   .arg(place) +
+               navigation.join(QStringLiteral(" &middot; ")) +
+               QStringLiteral("</td></tr></table>\n");
+    };
     const QString heading = title.toHtmlEscaped();
     return QStringLiteral("<!DOCTYPE html>\n<html lang=\"es\">\n<head>\n"
                           "<meta charset=\"utf-8\">\n<title>") +
@@ -19,8 +22,8 @@ QString PageOf(const QString &title, const QStringList &navigation, const QStrin
            QStringLiteral("</title>\n"
                           "<link rel=\"stylesheet\" type=\"text/css\" href=\"../estilo.css\">\n"
                           "</head>\n<body>\n") +
-           links + QStringLiteral("<h1>") + heading + QStringLiteral("</h1>\n") + body + links +
-           QStringLiteral("</body>\n</html>\n");
+           bar({}) + QStringLiteral("<h1>") + heading + QStringLiteral("</h1>\n") + body +
+           bar(QStringLiteral(" class=\"final\"")) + QStringLiteral("</body>\n</html>\n");
 }
 
 QString CodeBox(const QStringList &lines) {
