@@ -57,6 +57,14 @@ bool Save(const QImage &picture, const QString &file) {
     return writer.write(WithColorTable(picture.convertToFormat(QImage::Format_RGB32)));
 }
 
+/// With a thin frame, so that a window's picture does not flow into the page around it.
+QImage Framed(QImage picture) {
+    QPainter painter(&picture);
+    painter.setPen(QColor(144, 164, 174));
+    painter.drawRect(0, 0, picture.width() - 1, picture.height() - 1);
+    return picture;
+}
+
 /// A space ship of a few rectangles, to have something that the media browser can show.
 QImage SpaceShip() {
     QImage picture(240, 180, QImage::Format_RGB32);
@@ -104,7 +112,7 @@ class HelpPictures {
     void Report(const char *name, const QImage &picture) {
         const bool taken =
             !picture.isNull() &&
-            Save(picture, Pictures_.filePath(QLatin1String(name) + QStringLiteral(".png")));
+            Save(Framed(picture), Pictures_.filePath(QLatin1String(name) + QStringLiteral(".png")));
         Complete_ = Complete_ && taken;
         if (taken)
             std::printf("%s %d\n", name, picture.width());
