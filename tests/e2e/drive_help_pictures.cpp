@@ -25,7 +25,8 @@ constexpr int BarsHeight = 88;    ///< menus, toolbar and lists of the main wind
 constexpr int ToolbarMiddle = 39; ///< and its buttons, in pixels from the window's corner
 constexpr int ProjectButton = 510;
 constexpr int TasksButton = 543;
-constexpr int GraphicsLine = 12;        ///< of the example
+constexpr int GraphicsLine = 12; ///< of the example, 1-based
+constexpr int BlankLine = 4;
 constexpr int PatienceForWindow = 5000; ///< a feature that is there opens its window at once
 
 const QString AnyMainTitle = QStringLiteral("^Quillbox v1.0");
@@ -161,8 +162,11 @@ class HelpPictures {
         Report("barra", window.isNull() ? window : window.copy(0, 0, window.width(), BarsHeight));
     }
 
+    /// High up, so that the whole list is within the window.
     bool ShowCompletion() {
-        if (!Person_.PressIn(AnyMainTitle, {QStringLiteral("End"), QStringLiteral("Return")}))
+        QStringList keys(BlankLine - 1, QStringLiteral("Down"));
+        keys.prepend(QStringLiteral("ctrl+Home"));
+        if (!Person_.PressIn(AnyMainTitle, keys))
             return false;
         Person_.Type(QStringLiteral("load"));
         Person_.Press({QStringLiteral("ctrl+space")});
