@@ -1,122 +1,124 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "data_files/DataFile.h"
+#include "app/settings.h"
+#include "data_files/HelpFolder.h"
 
-#include <QFileInfo>
-#include <QRegularExpression>
-#include <QStringList>
+#include <QImage>
+#include <QSet>
+#include <QStringDecoder>
 #include <gtest/gtest.h>
 
 namespace Quillbox {
 namespace {
 
-class HelpPages : public testing::TestWithParam<const char *> {
-  protected:
-    static QByteArray Bytes() { return ReadDataFile(QString("Ayuda/") + GetParam()); }
-};
+const char *const LinkPattern = R"re(<(?:a|link)\s[^>]*href="([^"]*)")re";
+const char *const AnchorPattern = R"re(<a\s[^>]*name="([^"]*)")re";
 
-/// A page as the help viewer decodes it: by the character set that the page names.
-QString Decode(const QByteArray &page) { return QStringDecoder::decoderForHtml(page)(page); }
-
-/// What the first group of pattern matches, once per match.
-QStringList AllMatches(const QString &text, const char *pattern) {
-    QStringList found;
-    auto matches =
-        QRegularExpression(pattern, QRegularExpression::CaseInsensitiveOption).globalMatch(text);
-    while (matches.hasNext())
-        found.append(matches.next().captured(1));
-    return found;
-}
-
-QStringList Anchors(const QString &page) {
-    return AllMatches(page, R"re(<a\s[^>]*name="([^"]*)")re");
-}
-
-QStringList Links(const QString &page) {
-    return AllMatches(page, R"re(<a\s[^>]*href="([^"]*)")re");
-}
-
-/// Empty when a link on the page fromPage leads somewhere, otherwise what is missing.
-QString MissingTarget(const QString &fromPage, const QString &link) {
-    const QString name = link.section('#', 0, 0).isEmpty() ? fromPage : link.section('#', 0, 0);
-    const QString anchor = link.section('#', 1);
-    if (!QFileInfo(DataPath("Ayuda/" + name)).isFile())
-        return "file " + name;
-    if (!anchor.isEmpty() && !Anchors(Decode(ReadDataFile("Ayuda/" + name))).contains(anchor))
-        return "anchor " + anchor + " in " + name;
+/// Empty when the link leads somewhere, otherwise what is missing.
+QString MissingTarget(const QString &page, const QString &address) {
+    const QString file = FileOfLink(page, address);
+    if (!IsHelpFile(file))
+        return "file " + file;
+    const QString anchor = address.section(u'#', 1);
+    if (!anchor.isEmpty() && !AllMatches(HelpPage(file), AnchorPattern).contains(anchor))
+        return "anchor " + anchor + " in " + file;
     return {};
 }
 
-TEST_P(HelpPages, AreWindows1252AndSaySo) {
-    EXPECT_TRUE(Bytes().contains("charset=windows-1252"));
-    EXPECT_TRUE(IsWindows1252(Bytes()));
-    EXPECT_FALSE(LooksLikeUtf8(Bytes()));
+/// The pages that can be reached from `page`, itself among them.
+void VisitFrom(const QString &page, QSet<QString> &visited) {
+    if (visited.contains(page))
+        return;
+    visited.insert(page);
+    for (const QString &address : AllMatches(HelpPage(page), LinkPattern))
+        if (const QString file = FileOfLink(page, address);
+            file.endsWith(".htm") && IsHelpFile(file))
+            VisitFrom(file, visited);
 }
 
-TEST_P(HelpPages, ShowSpanishLettersWhenDecodedByTheirOwnDeclaration) {
-    EXPECT_TRUE(Decode(Bytes()).contains(QStringLiteral("está junto al programa")));
+TEST(HelpPages, AreWhatTheProgramOpens) {
+    EXPECT_TRUE(IsHelpFile("index.htm"));
+    EXPECT_TRUE(IsHelpFile("HowTo.htm"));
+    EXPECT_TRUE(IsHelpFile("Referencia/index.htm"));
 }
 
-TEST_P(HelpPages, LinkOnlyToWhatExists) {
-    const QStringList links = Links(Decode(Bytes()));
-    EXPECT_FALSE(links.isEmpty());
-    for (const QString &link : links)
-        EXPECT_EQ(MissingTarget(GetParam(), link).toStdString(), "") << link.toStdString();
+TEST(HelpPages, LinkOnlyToWhatExists) {
+    for (const QString &page : HelpPageNames()) {
+        const QStringList addresses = AllMatches(HelpPage(page), LinkPattern);
+        EXPECT_FALSE(addresses.isEmpty()) << page.toStdString();
+        for (const QString &address : addresses)
+            EXPECT_EQ(MissingTarget(page, address).toStdString(), "")
+                << page.toStdString() << ": " << address.toStdString();
+    }
 }
 
-TEST_P(HelpPages, FetchNothingAndRunNoScript) {
-    const QString page = Decode(Bytes());
-    for (const char *forbidden :
-         {"<script", "<img", "<iframe", "http://", "https://", "javascript:"})
-        EXPECT_FALSE(page.contains(QLatin1String(forbidden), Qt::CaseInsensitive)) << forbidden;
+TEST(HelpPages, ShowOnlyPicturesThatExistAsWideAsTheyAre) {
+    for (const QString &page : HelpPageNames())
+        for (const QString &picture : AllMatches(HelpPage(page), R"re(<img\s([^>]*)>)re")) {
+            const QString file =
+                FileOfLink(page, AllMatches(picture, R"re(src="([^"]*)")re").value(0));
+            if (!IsHelpFile(file)) {
+                ADD_FAILURE() << page.toStdString() << ": no picture " << file.toStdString();
+                continue;
+            }
+            EXPECT_EQ(AllMatches(picture, R"re(width="([^"]*)")re").value(0).toInt(),
+                      QImage(HelpPath(file)).width())
+                << page.toStdString() << ": " << file.toStdString();
+        }
 }
 
-TEST_P(HelpPages, LeadToEachOther) {
-    const QString other = QString(GetParam()) == "index.htm" ? "HowTo.htm" : "index.htm";
-    EXPECT_TRUE(Links(Decode(Bytes())).contains(other));
+TEST(HelpPages, DescribeTheirPictures) {
+    for (const QString &page : HelpPageNames())
+        for (const QString &picture : AllMatches(HelpPage(page), R"re(<img\s([^>]*)>)re"))
+            EXPECT_FALSE(AllMatches(picture, R"re(alt="([^"]+)")re").isEmpty())
+                << page.toStdString() << ": " << picture.toStdString();
 }
 
-INSTANTIATE_TEST_SUITE_P(All, HelpPages, testing::Values("index.htm", "HowTo.htm"),
-                         [](const auto &test) {
-                             return QString(test.param).section('.', 0, 0).toStdString();
-                         });
+TEST(HelpPages, HaveATitleEach) {
+    for (const QString &page : HelpPageNames())
+        EXPECT_EQ(AllMatches(HelpPage(page), "<title>([^<]+)</title>").size(), 1)
+            << page.toStdString();
+}
 
-TEST(HelpPage, OfTheSettingsExplainsEverySettingWithItsDefault) {
-    struct Setting {
-        const char *Key;
-        const char *Default;
-    };
-    const Setting settings[] = {
-        {"FenixCPath", R"(C:\Fenix\FXC.exe)"},
-        {"HelpPath", R"(C:\Fenix\docs\index.xml)"},
-        {"MainPath", R"(C:\Fenix\)"},
-        {"ShowQuickHelp", "1"},
-        {"ColorSyntax", "1"},
-        {"StringColor", "8388736"},
-        {"OperatorsColor", "0"},
-        {"TextColor", "0"},
-        {"BackgroundColor", "16777215"},
-        {"KeywordsColor", "128"},
-        {"CommentsColor", "32768"},
-        {"NumbersColor", "16711680"},
-        {"StringsStyle", "0"},
-        {"CommentsStyle", "0"},
-        {"OperatorsStyle", "1"},
-        {"TextStyle", "0"},
-        {"KeywordsStyle", "1"},
-        {"NumbersStyle", "1"},
-        {"Font", "Courier"},
-        {"FontSize", "10"},
-        {"TabSize", "3"},
-        {"LineNumbers", "1"},
-        {"ShowFunctions", "1"},
-        {"ShowLabels", "1"},
-        {"ShowTypes", "1"},
-    };
-    const QString page = Decode(ReadDataFile("Ayuda/HowTo.htm"));
-    for (const auto &[key, value] : settings) {
-        const QString row =
-            QString("<a name=\"%1\"></a>%1</td><td><code>%2</code></td>").arg(key, value);
-        EXPECT_TRUE(page.contains(row)) << key;
+TEST(HelpPages, AreUtf8AndSaySo) {
+    for (const QString &page : HelpPageNames()) {
+        const QByteArray bytes = ReadHelpFile(page);
+        EXPECT_TRUE(bytes.contains("<meta charset=\"utf-8\">")) << page.toStdString();
+        QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+        const QString text = decoder(bytes);
+        EXPECT_FALSE(decoder.hasError()) << page.toStdString();
+        EXPECT_FALSE(text.contains(QStringLiteral("Ã"))) << page.toStdString();
+    }
+}
+
+TEST(HelpPages, FetchNothingAndRunNoScript) {
+    for (const QString &page : HelpPageNames())
+        for (const char *forbidden : {"<script", "<iframe", "http:", "https:", "javascript:"})
+            EXPECT_FALSE(HelpPage(page).contains(QLatin1String(forbidden), Qt::CaseInsensitive))
+                << page.toStdString() << ": " << forbidden;
+}
+
+TEST(HelpPages, AreAllReachedFromTheFirstOne) {
+    QSet<QString> visited;
+    VisitFrom("index.htm", visited);
+    for (const QString &page : HelpPageNames())
+        EXPECT_TRUE(visited.contains(page)) << page.toStdString();
+}
+
+TEST(HelpPages, LeadBackToTheFirstOne) {
+    for (const QString &page : HelpPageNames()) {
+        QStringList files;
+        for (const QString &address : AllMatches(HelpPage(page), LinkPattern))
+            files += FileOfLink(page, address);
+        EXPECT_TRUE(page == "index.htm" || files.contains("index.htm")) << page.toStdString();
+    }
+}
+
+TEST(HelpPages, ExplainEverySettingWithItsDefault) {
+    const QString page = HelpPage("quillbox_ini.htm");
+    for (const SettingsEntry &entry : SettingsEntries()) {
+        const QString row = QString("<a name=\"%1\"></a>%1</td><td><code>%2</code></td>")
+                                .arg(entry.Key, QString(entry.DefaultText).toHtmlEscaped());
+        EXPECT_TRUE(page.contains(row)) << entry.Key;
     }
 }
 

@@ -24,6 +24,11 @@ void PassTime(int milliseconds) {
     }
 }
 
+/// The number behind a name in what the tool prints as lines "NAME=number".
+int ValueIn(const QString &lines, const QString &name) {
+    return (u'\n' + lines).section(u'\n' + name + u'=', 1, 1).section(u'\n', 0, 0).toInt();
+}
+
 } // namespace
 
 bool WaitUntil(const std::function<bool()> &condition, int milliseconds) {
@@ -59,8 +64,8 @@ bool Person::WaitForWindowCount(const QString &title, int count) {
     return WaitUntil([&] { return FindWindows(title).size() == count; });
 }
 
-bool Person::WaitForMenu() {
-    return WaitUntil([this] { return IsMenuThere(); });
+bool Person::WaitForMenu(int milliseconds) {
+    return WaitUntil([this] { return IsMenuThere(); }, milliseconds);
 }
 
 bool Person::WaitForNoMenu() {
@@ -153,6 +158,27 @@ bool Person::Screenshot(const QString &file) {
     return QGuiApplication::primaryScreen()->grabWindow(0).save(file);
 }
 
+QImage Person::PictureOf(const QString &title) {
+    const qint64 window = FindWindow(title);
+    if (window == 0)
+        return {};
+    const QPoint corner = CornerOf(window);
+    const QPoint size = SizeOf(window);
+    Pause();
+    return QGuiApplication::primaryScreen()
+        ->grabWindow(0, corner.x(), corner.y(), size.x(), size.y())
+        .toImage();
+}
+
+bool Person::Resize(const QString &title, QSize size) {
+    const qint64 window = WaitForWindow(title);
+    if (window == 0)
+        return false;
+    Tool({QStringLiteral("windowsize"), QString::number(window), QString::number(size.width()),
+          QString::number(size.height())});
+    return WaitUntil([&] { return SizeOf(window) == QPoint(size.width(), size.height()); });
+}
+
 void Person::Pause(int milliseconds) { PassTime(milliseconds); }
 
 QString Person::Tool(const QStringList &arguments) {
@@ -187,10 +213,16 @@ bool Person::IsMenuThere() {
 QPoint Person::SizeOf(qint64 window) {
     const QString geometry = Tool(
         {QStringLiteral("getwindowgeometry"), QStringLiteral("--shell"), QString::number(window)});
-    const auto value = [&](const QString &name) {
-        return geometry.section(name + u'=', 1, 1).section(u'\n', 0, 0).toInt();
-    };
-    return {value(QStringLiteral("WIDTH")), value(QStringLiteral("HEIGHT"))};
+    return {ValueIn(geometry, QStringLiteral("WIDTH")),
+            ValueIn(geometry, QStringLiteral("HEIGHT"))};
+}
+
+/// The pointer tells the place: what the tool says of a window's own place counts its frame twice.
+QPoint Person::CornerOf(qint64 window) {
+    Tool({QStringLiteral("mousemove"), QStringLiteral("--window"), QString::number(window),
+          QStringLiteral("0"), QStringLiteral("0")});
+    const QString place = Tool({QStringLiteral("getmouselocation"), QStringLiteral("--shell")});
+    return {ValueIn(place, QStringLiteral("X")), ValueIn(place, QStringLiteral("Y"))};
 }
 
 /// A window that is just coming up may miss the first request.

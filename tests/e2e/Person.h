@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QImage>
 #include <QPoint>
+#include <QSize>
 #include <QString>
 #include <QStringList>
 
@@ -29,7 +31,7 @@ class Person {
     /// For questions that have the title of the window that asks them.
     bool WaitForWindowCount(const QString &title, int count);
     /// A menu is a window without a title.
-    bool WaitForMenu();
+    bool WaitForMenu(int milliseconds = PatienceMilliseconds);
     bool WaitForNoMenu();
     /// The number of the process that shows the window, 0 without a window.
     qint64 ProcessOf(const QString &title);
@@ -54,6 +56,11 @@ class Person {
     QString ReadMessage(const QString &title);
 
     bool Screenshot(const QString &file);
+    /// What the desktop shows where the window is, without its frame; a menu or a box in front of
+    /// it is on the picture. Null without the window.
+    QImage PictureOf(const QString &title);
+    /// Makes the window that large inside.
+    bool Resize(const QString &title, QSize size);
     /// Gives the program time to react.
     void Pause(int milliseconds = 300);
 
@@ -63,6 +70,8 @@ class Person {
     qint64 FindWindow(const QString &title);
     bool IsMenuThere();
     QPoint SizeOf(qint64 window);
+    /// Of its inside, on the desktop. Takes the pointer there.
+    QPoint CornerOf(qint64 window);
     bool GiveKeyboard(qint64 window);
 };
 
