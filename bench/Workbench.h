@@ -55,6 +55,7 @@ void PrintMemoryOfColouredText();
 void MeasureColouring();
 void MeasureLongLine();
 void MeasureDocuments();
+void MeasureFinding();
 /// `reading`: seconds that reading the same bytes takes.
 void MeasureOpeningInTheProgram(double reading);
 

@@ -4,7 +4,7 @@
 #include <QApplication>
 
 /// Without arguments measures everything; otherwise what the arguments name: loading, memory,
-/// colouring, line, documents.
+/// colouring, line, documents, finding.
 int main(int argc, char *argv[]) {
     using namespace Quillbox::Bench;
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
@@ -28,5 +28,7 @@ int main(int argc, char *argv[]) {
         MeasureLongLine();
     if (isWanted("documents"))
         MeasureDocuments();
+    if (isWanted("finding"))
+        MeasureFinding();
     return 0;
 }

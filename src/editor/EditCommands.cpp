@@ -33,6 +33,7 @@ constexpr EditCommand Commands[] = {
     {"mnuEdicion_SeleccionarTodo", RunNumbered<EditorCommand::SelectAll>},
     {"mnuEdicion_BuscarReemplazar", RunNumbered<EditorCommand::FindAndReplace>},
     {"mnuEdicion_BuscarSiguiente", RunNumbered<EditorCommand::FindNext>},
+    {"mnuEdicion_BuscarAnterior", RunNumbered<EditorCommand::FindPrevious>},
     {"mnuEdicion_InsertarEliminarBookmark", RunNumbered<EditorCommand::ToggleBookmark>},
     {"mnuEdicion_BookmarkSiguiente", RunNumbered<EditorCommand::NextBookmark>},
     {"mnuEdicion_BookmarkAnterior", RunNumbered<EditorCommand::PreviousBookmark>},

@@ -70,6 +70,7 @@ enum class EditorCommand {
     ClearBookmarks = 207,
     FirstBookmark = 208,
     LastBookmark = 209,
+    FindPrevious = 311, ///< the numbers from 300 on are Quillbox's own
 };
 
 /// The operations of one document's editor. Lines and columns are 0-based and count characters;

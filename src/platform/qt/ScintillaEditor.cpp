@@ -4,7 +4,6 @@
 #include "platform/Paths.h"
 #include "platform/qt/ScintillaKeys.h"
 #include "platform/qt/ScintillaMarks.h"
-#include "platform/qt/ScintillaSearch.h"
 
 #include <QPointer>
 
@@ -40,6 +39,7 @@ ScintillaEditor::ScintillaEditor(const LanguageCatalogue &languages, FindState &
     , Dialogs_(dialogs)
     , Text_(*this)
     , Styles_(Text_)
+    , LineMarks_(Text_)
     , Colouring_(Text_) {
     setAccessibleName(tr("Editor de código"));
     // Without this, each blink of the caret would paint the window behind the editor as well.
@@ -51,6 +51,11 @@ ScintillaEditor::ScintillaEditor(const LanguageCatalogue &languages, FindState &
     connect(this, &QsciScintillaBase::SCN_STYLENEEDED, this,
             [this](int position) { Colouring_.ColourUpTo(position); });
     connect(this, &QsciScintillaBase::SCN_MODIFIED, this, &ScintillaEditor::OnModified);
+    connect(this, &QsciScintillaBase::SCN_MODIFIED, this,
+            [this](int, int type, const char *, int, int, int, int, int, int token) {
+                if ((type & SC_MOD_CONTAINER) != 0)
+                    LineMarks_.StepReported(token);
+            });
     connect(this, &QsciScintillaBase::SCN_SAVEPOINTLEFT, this, &ScintillaEditor::TellChangesSoon);
     connect(this, &QsciScintillaBase::SCN_SAVEPOINTREACHED, this,
             &ScintillaEditor::TellChangesSoon);
@@ -59,7 +64,7 @@ ScintillaEditor::ScintillaEditor(const LanguageCatalogue &languages, FindState &
 ScintillaEditor::~ScintillaEditor() = default;
 
 void ScintillaEditor::SetUpControl() {
-    Text_.Send(SCI_SETMODEVENTMASK, SC_MOD_INSERTTEXT | SC_MOD_DELETETEXT);
+    Text_.Send(SCI_SETMODEVENTMASK, SC_MOD_INSERTTEXT | SC_MOD_DELETETEXT | SC_MOD_CONTAINER);
     Text_.Send(SCI_USEPOPUP, 0);
     Text_.Send(SCI_SETSCROLLWIDTHTRACKING, 1);
     Text_.Send(SCI_SETSCROLLWIDTH, 1);

@@ -3,6 +3,7 @@
 
 #include "platform/EditorControl.h"
 #include "platform/qt/ScintillaColouring.h"
+#include "platform/qt/ScintillaLineMarks.h"
 #include "platform/qt/ScintillaStyles.h"
 
 #include <Qsci/qsciscintillabase.h>
@@ -126,6 +127,7 @@ class ScintillaEditor final : public QsciScintillaBase, public EditorControl {
     Dialogs &Dialogs_;
     ScintillaText Text_;
     ScintillaStyles Styles_;
+    LineMarkKeeper LineMarks_;
     mutable ScintillaColouring Colouring_; ///< asking for a token's class colours its line
     QString Language_;
     int ActionDepth_ = 0;
