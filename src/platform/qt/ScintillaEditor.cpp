@@ -39,7 +39,7 @@ ScintillaEditor::ScintillaEditor(const LanguageCatalogue &languages, FindState &
     , Dialogs_(dialogs)
     , Text_(*this)
     , Styles_(Text_)
-    , LineMarks_(Text_)
+    , BulkSteps_(*this)
     , Colouring_(Text_) {
     setAccessibleName(tr("Editor de código"));
     // Without this, each blink of the caret would paint the window behind the editor as well.
@@ -54,7 +54,7 @@ ScintillaEditor::ScintillaEditor(const LanguageCatalogue &languages, FindState &
     connect(this, &QsciScintillaBase::SCN_MODIFIED, this,
             [this](int, int type, const char *, int, int, int, int, int, int token) {
                 if ((type & SC_MOD_CONTAINER) != 0)
-                    LineMarks_.StepReported(token);
+                    BulkSteps_.TokenReported(token);
             });
     connect(this, &QsciScintillaBase::SCN_SAVEPOINTLEFT, this, &ScintillaEditor::TellChangesSoon);
     connect(this, &QsciScintillaBase::SCN_SAVEPOINTREACHED, this,

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "platform/EditorControl.h"
+#include "platform/qt/ScintillaBulkEdit.h"
 #include "platform/qt/ScintillaColouring.h"
-#include "platform/qt/ScintillaLineMarks.h"
 #include "platform/qt/ScintillaStyles.h"
 
 #include <Qsci/qsciscintillabase.h>
@@ -127,7 +127,7 @@ class ScintillaEditor final : public QsciScintillaBase, public EditorControl {
     Dialogs &Dialogs_;
     ScintillaText Text_;
     ScintillaStyles Styles_;
-    LineMarkKeeper LineMarks_;
+    BulkSteps BulkSteps_;
     mutable ScintillaColouring Colouring_; ///< asking for a token's class colours its line
     QString Language_;
     int ActionDepth_ = 0;

@@ -7,8 +7,6 @@ namespace {
 
 using Sci = QsciScintillaBase;
 
-/// Stands at both ends of the edit in the undo history.
-constexpr int LineKeepingToken = 0x4C4B;
 constexpr std::intptr_t EveryMark = -1;
 
 } // namespace
@@ -25,32 +23,6 @@ void LineMarks::PutBack(const ScintillaText &text) const {
     text.Send(Sci::SCI_MARKERDELETEALL, EveryMark);
     for (const MarkedLine &line : Lines_)
         text.Send(Sci::SCI_MARKERADDSET, line.Line, line.Marks);
-}
-
-LineKeepingEdit::LineKeepingEdit(const ScintillaText &text)
-    : Text_(text)
-    , Marks_(text) {
-    Text_.Send(Sci::SCI_ADDUNDOACTION, LineKeepingToken);
-}
-
-LineKeepingEdit::~LineKeepingEdit() {
-    Text_.Send(Sci::SCI_ADDUNDOACTION, LineKeepingToken);
-    Marks_.PutBack(Text_);
-}
-
-LineMarkKeeper::LineMarkKeeper(const ScintillaText &text)
-    : Text_(text) {}
-
-/// The first report comes before the edit is taken back or done again, the second behind it.
-void LineMarkKeeper::StepReported(int token) {
-    if (token != LineKeepingToken)
-        return;
-    if (Marks_) {
-        Marks_->PutBack(Text_);
-        Marks_.reset();
-    } else {
-        Marks_.emplace(Text_);
-    }
 }
 
 } // namespace Quillbox

@@ -3,7 +3,7 @@
 
 #include "editor/ReplacementText.h"
 #include "editor/TextEdits.h"
-#include "platform/qt/ScintillaLineMarks.h"
+#include "platform/qt/ScintillaBulkEdit.h"
 #include "platform/qt/ScintillaPieces.h"
 
 namespace Quillbox {
@@ -90,17 +90,19 @@ void PutIn(const ScintillaText &text, const TextEdits &edits) {
 }
 
 /// Neighbours that are put in together take their lines out and bring as many back. With new line
-/// ends among them the component has to see each by itself, to move marks and view along.
-void PutIn(const ScintillaText &text, const TextEdits &edits, TextEdits::Neighbours neighbours) {
+/// ends among them the component sees each by itself and moves marks and view along.
+void PutInAsOne(QsciScintillaBase &editor, const TextEdits &edits, BulkLines lines) {
+    const ScintillaText text(editor);
     const UndoStep step(text);
-    if (neighbours == TextEdits::Neighbours::KeepApart)
-        return PutIn(text, edits);
     const std::intptr_t top = text.Send(Sci::SCI_GETFIRSTVISIBLELINE);
+    const auto before = static_cast<BytePosition>(edits.Edits().front().Range.Start);
+    const auto end = static_cast<BytePosition>(edits.Edits().back().Range.End);
     {
-        const LineKeepingEdit edit(text);
+        const BulkEdit edit(editor, lines, before, text.Length() - end);
         PutIn(text, edits);
     }
-    text.Send(Sci::SCI_SETFIRSTVISIBLELINE, top);
+    if (lines == BulkLines::Kept)
+        text.Send(Sci::SCI_SETFIRSTVISIBLELINE, top);
 }
 
 } // namespace
@@ -135,9 +137,9 @@ ReplacedAll ReplaceAllMatches(QsciScintillaBase &editor, const FindTask &task,
     if (const auto *bad = std::get_if<BadExpression>(&made))
         return {0, bad->Reason};
     const ReplacementText replacementText = ReplacementFor(task, replacement, text);
-    const auto neighbours = replacementText.HasLineEnd() ? TextEdits::Neighbours::KeepApart
-                                                         : TextEdits::Neighbours::Join;
-    TextEdits edits(neighbours);
+    const auto lines = replacementText.HasLineEnd() ? BulkLines::Moved : BulkLines::Kept;
+    TextEdits edits(lines == BulkLines::Kept ? TextEdits::Neighbours::Join
+                                             : TextEdits::Neighbours::KeepApart);
     edits.Follow(static_cast<std::size_t>(text.Caret()));
     edits.Follow(static_cast<std::size_t>(text.Send(Sci::SCI_GETANCHOR)));
     TextSearch &search = *std::get<std::unique_ptr<TextSearch>>(made);
@@ -145,7 +147,7 @@ ReplacedAll ReplaceAllMatches(QsciScintillaBase &editor, const FindTask &task,
         SearchEnd::TooCostly)
         return {0, TooCostlyProblem()};
     if (edits.Count() > 0) {
-        PutIn(text, edits, neighbours);
+        PutInAsOne(editor, edits, lines);
         text.Send(Sci::SCI_SETSELECTION, static_cast<std::intptr_t>(edits.PlaceOf(0)),
                   static_cast<std::intptr_t>(edits.PlaceOf(1)));
     }
