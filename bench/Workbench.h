@@ -55,6 +55,7 @@ void PrintMemoryOfColouredText();
 void MeasureColouring();
 void MeasureLongLine();
 void MeasureDocuments();
+void MeasureFinding();
 void MeasureSymbols();
 void MeasureMediaBrowser();
 /// Only the first start in a process is that of a program that a person starts.

@@ -4,7 +4,7 @@
 #include <QApplication>
 
 /// Without arguments measures everything; otherwise what the arguments name: loading, memory,
-/// colouring, line, documents, symbols, media, and alone
+/// colouring, line, documents, symbols, media, finding, and alone
 /// startup.
 int main(int argc, char *argv[]) {
     using namespace Quillbox::Bench;
@@ -37,5 +37,7 @@ int main(int argc, char *argv[]) {
         MeasureSymbols();
     if (isWanted("media"))
         MeasureMediaBrowser();
+    if (isWanted("finding"))
+        MeasureFinding();
     return 0;
 }

@@ -23,7 +23,7 @@
 #include "editor/frmDoc.h"
 #include "platform/qt/EventBoundary.h"
 #include "platform/qt/LanguageCatalogue.h"
-#include "platform/qt/ScintillaSearch.h"
+#include "platform/qt/FindState.h"
 #include "project/NewProject.h"
 #include "project/Project.h"
 #include "project/ProjectCommands.h"

@@ -34,6 +34,7 @@ constexpr EditCommand Commands[] = {
     {"mnuEdicion_SeleccionarTodo", RunNumbered<EditorCommand::SelectAll>},
     {"mnuEdicion_BuscarReemplazar", RunNumbered<EditorCommand::FindAndReplace>},
     {"mnuEdicion_BuscarSiguiente", RunNumbered<EditorCommand::FindNext>},
+    {"mnuEdicion_BuscarAnterior", RunNumbered<EditorCommand::FindPrevious>},
     {"mnuEdicion_IrALinea", RunNumbered<EditorCommand::GoToLine>},
     {"mnuEdicion_IrACorchete", RunNumbered<EditorCommand::GoToMatchingBracket>},
     {"mnuEdicion_SeleccionarSiguiente", RunNumbered<EditorCommand::SelectNextOccurrence>},

@@ -71,9 +71,11 @@ enum class EditorCommand {
     ClearBookmarks = 207,
     FirstBookmark = 208,
     LastBookmark = 209,
+    // The numbers from 300 on are Quillbox's own.
     GoToLine = 301,             ///< asks for a line
     GoToMatchingBracket = 302,  ///< of the bracket at the caret
     SelectNextOccurrence = 303, ///< the word at the caret, then also the next text like it
+    FindPrevious = 311,
 };
 
 /// The operations of one document's editor. Lines and columns are 0-based and count characters;

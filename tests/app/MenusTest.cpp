@@ -59,7 +59,7 @@ TEST(Menus, HoldTheCommandsOfTheEditor) {
                     "mnuEdicion_Deshacer", "mnuEdicion_Rehacer", "mnuEdicion_Cortar",
                     "mnuEdicion_Copiar", "mnuEdicion_Pegar", "mnuEdición_Eliminar",
                     "mnuEdicion_SeleccionarTodo", "mnuEdicion_BuscarReemplazar",
-                    "mnuEdicion_BuscarSiguiente", "mnuEdicion_IrALinea", "mnuEdicion_IrACorchete",
+                    "mnuEdicion_BuscarSiguiente", "mnuEdicion_BuscarAnterior", "mnuEdicion_IrALinea", "mnuEdicion_IrACorchete",
                     "mnuEdicion_SeleccionarSiguiente", "mnuEdicion_CompletarPalabra",
                     "mnuEdicion_InsertarEliminarBookmark", "mnuEdicion_BookmarkSiguiente",
                     "mnuEdicion_BookmarkAnterior", "mnuEdicion_PrimerBookmark",

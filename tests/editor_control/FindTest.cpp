@@ -1,81 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "EditorFixture.h"
-
-#include <QCheckBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMainWindow>
-#include <QPushButton>
-#include <QSignalSpy>
-#include <QTest>
+#include "FindFixture.h"
 
 namespace Quillbox::Test {
 
 namespace {
 
-class FindAndReplace : public EditorTest {
-  protected:
-    FindAndReplace() {
-        Window.setCentralWidget(Editor.release());
-        Window.show();
-    }
-
-    ScintillaEditor &Code() const {
-        return *static_cast<ScintillaEditor *>(Window.centralWidget());
-    }
-
-    void LoadCode(const QByteArray &bytes) {
-        ASSERT_TRUE(Code().OpenFile(Write(QStringLiteral("texto.bb"), bytes)));
-    }
-
-    FindDialog &Open() {
-        Code().ExecuteCommand(EditorCommand::FindAndReplace);
-        return *Find.Dialog;
-    }
-
-    template <class Widget>
-    Widget &Child(const char *name) const {
-        return *Find.Dialog->findChild<Widget *>(QLatin1String(name));
-    }
-
-    void Look(const QString &term) {
-        Open();
-        Child<QLineEdit>("txtBuscar").setText(term);
-    }
-
-    void Click(const char *button) { Child<QPushButton>(button).click(); }
-    QString Result() const { return Child<QLabel>("lblResultado").text(); }
-
-    void SelectCode(TextPosition start, TextPosition end) {
-        const ScintillaText text(Code());
-        text.Send(QsciScintillaBase::SCI_SETSEL, text.PositionOf(start), text.PositionOf(end));
-    }
-
-    QMainWindow Window;
-};
-
-TextRange Range(TextPosition start, TextPosition end) { return {start, end}; }
+/// What the editor tells by itself while the dialog is closed.
+QString NoticeIn(const ScintillaEditor &editor) {
+    const auto *notice = editor.findChild<QLabel *>("lblAvisoBuscar");
+    return notice == nullptr ? QString() : notice->text();
+}
 
 } // namespace
-
-TEST_F(FindAndReplace, OpensOneDialogInTheEditorsWindow) {
-    FindDialog &dialog = Open();
-    EXPECT_EQ(dialog.objectName(), "frmBuscarReemplazar");
-    EXPECT_EQ(dialog.parentWidget(), &Window);
-    EXPECT_TRUE(dialog.isVisible());
-    EXPECT_FALSE(dialog.isModal());
-    EXPECT_EQ(&Open(), &dialog);
-}
-
-TEST_F(FindAndReplace, ProposesTheSelectedWord) {
-    LoadCode("uno dos\ntres");
-    SelectCode(At(0, 4), At(0, 7));
-    Open();
-    EXPECT_EQ(Child<QLineEdit>("txtBuscar").text(), "dos");
-    SelectCode(At(0, 0), At(1, 2));
-    Open();
-    EXPECT_EQ(Child<QLineEdit>("txtBuscar").text(), "");
-}
 
 TEST_F(FindAndReplace, FindsForwardAndAroundTheEnd) {
     LoadCode("Uno dos uno");
@@ -103,7 +39,7 @@ TEST_F(FindAndReplace, TellsCasesApartWhenAsked) {
     Click("cmdSiguiente");
     EXPECT_EQ(Code().GetSel(), Range(At(0, 4), At(0, 7)));
     Code().SetCaretPos(At(0, 0));
-    Child<QCheckBox>("chkMayusculas").setChecked(true);
+    Tick("chkMayusculas");
     Click("cmdSiguiente");
     EXPECT_EQ(Code().GetSel(), Range(At(0, 12), At(0, 15)));
 }
@@ -123,7 +59,7 @@ TEST_F(FindAndReplace, FindsNothingWithinACharacter) {
 TEST_F(FindAndReplace, FindsWholeWordsWhenAsked) {
     LoadCode("unos uno");
     Look("uno");
-    Child<QCheckBox>("chkPalabraCompleta").setChecked(true);
+    Tick("chkPalabraCompleta");
     Click("cmdSiguiente");
     EXPECT_EQ(Code().GetSel(), Range(At(0, 5), At(0, 8)));
 }
@@ -135,47 +71,6 @@ TEST_F(FindAndReplace, SaysWhenThereIsNothing) {
     Click("cmdSiguiente");
     EXPECT_EQ(Result(), "No se encuentra «cuatro».");
     EXPECT_EQ(Code().GetSel().End, At(0, 2));
-}
-
-TEST_F(FindAndReplace, ReplacesTheMatchAndGoesToTheNext) {
-    LoadCode("uno dos uno");
-    Look("uno");
-    Child<QLineEdit>("txtReemplazar").setText("tres");
-    Click("cmdReemplazar");
-    EXPECT_EQ(Code().Text(), "uno dos uno");
-    EXPECT_EQ(Code().GetSel(), Range(At(0, 0), At(0, 3)));
-    Click("cmdReemplazar");
-    EXPECT_EQ(Code().Text(), "tres dos uno");
-    EXPECT_EQ(Code().GetSel(), Range(At(0, 9), At(0, 12)));
-    Click("cmdReemplazar");
-    EXPECT_EQ(Code().Text(), "tres dos tres");
-    EXPECT_EQ(Result(), "No quedan más apariciones.");
-    Code().Undo();
-    EXPECT_EQ(Code().Text(), "tres dos uno");
-}
-
-TEST_F(FindAndReplace, ReplacesAllInOneUndoStepAndCounts) {
-    LoadCode("uno dos uno\nuno");
-    Look("uno");
-    Child<QLineEdit>("txtReemplazar").setText("uno uno");
-    Click("cmdReemplazarTodo");
-    EXPECT_EQ(Code().Text(), "uno uno dos uno uno\nuno uno");
-    EXPECT_EQ(Result(), "Se han reemplazado 3 apariciones.");
-    Code().Undo();
-    EXPECT_EQ(Code().Text(), "uno dos uno\nuno");
-    Look("dos");
-    Child<QLineEdit>("txtReemplazar").clear();
-    Click("cmdReemplazarTodo");
-    EXPECT_EQ(Code().Text(), "uno  uno\nuno");
-    EXPECT_EQ(Result(), "Se ha reemplazado 1 aparición.");
-}
-
-TEST_F(FindAndReplace, ReplacesWithCharactersThatFilesCanKeep) {
-    LoadCode("uno");
-    Look("uno");
-    Child<QLineEdit>("txtReemplazar").setText(QString::fromUtf8("ñЖ"));
-    Click("cmdReemplazarTodo");
-    EXPECT_EQ(Code().Text(), "ñ?");
 }
 
 TEST_F(FindAndReplace, FindsNextWithoutTheDialog) {
@@ -194,64 +89,144 @@ TEST_F(FindAndReplace, OpensWhenFindNextHasNothingToLookFor) {
     EXPECT_TRUE(Find.Dialog->isVisible());
 }
 
-TEST_F(FindAndReplace, OpensWhenFindNextFindsNothing) {
+TEST_F(FindAndReplace, TellsInTheEditorWhenFindNextFindsNothing) {
     LoadCode("uno");
     Find.Request.Term = "cuatro";
     Code().ExecuteCommand(EditorCommand::FindNext);
-    ASSERT_TRUE(Find.Dialog);
-    EXPECT_EQ(Result(), "No se encuentra «cuatro».");
+    EXPECT_FALSE(Find.Dialog);
+    EXPECT_EQ(NoticeIn(Code()), "No se encuentra «cuatro».");
 }
 
-TEST_F(FindAndReplace, WorksOnTheEditorThatHadTheKeyboardLast) {
-    LoadCode("uno");
+TEST_F(FindAndReplace, TellsWhenItWentAroundTheEnd) {
+    LoadCode("uno dos uno");
     Look("uno");
-    const auto other = NewEditor();
-    other->show();
-    ASSERT_TRUE(other->OpenFile(Write("b.bb", "x uno")));
-    QFocusEvent focus(QEvent::FocusIn);
-    QCoreApplication::sendEvent(other.get(), &focus);
     Click("cmdSiguiente");
-    EXPECT_EQ(other->GetSel(), Range(At(0, 2), At(0, 5)));
-}
-
-TEST_F(FindAndReplace, SaysWhenItsEditorIsGone) {
-    Look("uno");
-    delete Window.takeCentralWidget();
     Click("cmdSiguiente");
-    EXPECT_EQ(Result(), "No hay ningún documento a la vista.");
+    EXPECT_EQ(Result(), "");
+    Click("cmdSiguiente");
+    EXPECT_EQ(Result(), "Se llegó al final; se sigue desde el principio.");
+    Click("cmdAnterior");
+    EXPECT_EQ(Result(), "Se llegó al principio; se sigue desde el final.");
+    Click("cmdAnterior");
+    EXPECT_EQ(Result(), "");
 }
 
-TEST_F(FindAndReplace, LeavesADocumentAloneThatNobodySees) {
-    LoadCode("uno");
+TEST_F(FindAndReplace, StopsAtTheEndWhenAsked) {
+    LoadCode("uno dos uno");
     Look("uno");
-    Code().hide();
+    EXPECT_TRUE(Child<QCheckBox>("chkVuelta").isChecked());
+    Child<QCheckBox>("chkVuelta").setChecked(false);
+    Click("cmdSiguiente");
+    Click("cmdSiguiente");
+    Click("cmdSiguiente");
+    EXPECT_EQ(Code().GetSel(), Range(At(0, 8), At(0, 11)));
+    EXPECT_EQ(Result(), "No hay más coincidencias hasta el final.");
+    Click("cmdAnterior");
+    Click("cmdAnterior");
+    EXPECT_EQ(Result(), "No hay más coincidencias hasta el principio.");
+}
+
+TEST_F(FindAndReplace, FindsExpressions) {
+    LoadCode("vida=10\r\na\xF1o=2\r\n");
+    LookForExpression("\\w+=\\d$");
+    Click("cmdSiguiente");
+    EXPECT_EQ(Code().GetSel(), Range(At(1, 0), At(1, 5)));
+}
+
+TEST_F(FindAndReplace, FindsExpressionsBackward) {
+    LoadCode("x1 x22\nx333");
+    LookForExpression("x\\d+");
+    Click("cmdAnterior");
+    EXPECT_EQ(Code().GetSel(), Range(At(1, 0), At(1, 4)));
+    Click("cmdAnterior");
+    EXPECT_EQ(Code().GetSel(), Range(At(0, 3), At(0, 6)));
+}
+
+TEST_F(FindAndReplace, GoesFromEmptyMatchToEmptyMatch) {
+    LoadCode("a\nb\nc");
+    LookForExpression("^");
+    Click("cmdSiguiente");
+    EXPECT_EQ(Code().GetSel(), Range(At(1, 0), At(1, 0)));
+    EXPECT_EQ(Result(), "La coincidencia no tiene texto.");
+    Click("cmdSiguiente");
+    EXPECT_EQ(Code().GetSel(), Range(At(2, 0), At(2, 0)));
+    Click("cmdSiguiente");
+    EXPECT_EQ(Code().GetSel(), Range(At(0, 0), At(0, 0)));
+    Click("cmdAnterior");
+    EXPECT_EQ(Code().GetSel(), Range(At(2, 0), At(2, 0)));
+    Click("cmdAnterior");
+    EXPECT_EQ(Code().GetSel(), Range(At(1, 0), At(1, 0)));
+}
+
+TEST_F(FindAndReplace, TellsAMistakeInAnExpressionWhileItIsTyped) {
+    LoadCode("uno");
+    LookForExpression("(uno");
+    EXPECT_EQ(Result(), "Expresión no válida: falta un paréntesis de cierre (posición 5).");
+    Click("cmdSiguiente");
+    EXPECT_EQ(Result(), "Expresión no válida: falta un paréntesis de cierre (posición 5).");
     Click("cmdReemplazarTodo");
-    EXPECT_EQ(Result(), "No hay ningún documento a la vista.");
+    EXPECT_EQ(Result(), "Expresión no válida: falta un paréntesis de cierre (posición 5).");
+    Child<QLineEdit>("txtBuscar").setText("(uno)");
+    EXPECT_EQ(Result(), "");
+}
+
+TEST_F(FindAndReplace, EndsAnExpressionThatTakesForever) {
+    LoadCode(QByteArray(60, 'a') + '!');
+    LookForExpression("(a+)+$");
+    for (const char *button :
+         {"cmdSiguiente", "cmdAnterior", "cmdReemplazar", "cmdReemplazarTodo"}) {
+        Child<QLabel>("lblResultado").clear();
+        Click(button);
+        EXPECT_EQ(Result(), "La expresión es demasiado costosa para este texto.") << button;
+    }
     EXPECT_FALSE(Code().IsModified());
 }
 
-TEST_F(FindAndReplace, NeedsATermForItsButtons) {
-    Look("");
-    EXPECT_FALSE(Child<QPushButton>("cmdSiguiente").isEnabled());
-    EXPECT_TRUE(Child<QPushButton>("cmdCerrar").isEnabled());
-    Child<QLineEdit>("txtBuscar").setText("u");
-    EXPECT_TRUE(Child<QPushButton>("cmdReemplazarTodo").isEnabled());
+TEST_F(FindAndReplace, FindsAroundThePlaceOfTheLastEdit) {
+    LoadCode("uno dos\nuno dos\nuno dos");
+    Code().SetCaretPos(At(1, 5));
+    Code().ReplaceSel("X");
+    Look("dos");
+    Click("cmdSiguiente");
+    EXPECT_EQ(Code().GetSel(), Range(At(2, 4), At(2, 7)));
+    Click("cmdSiguiente");
+    EXPECT_EQ(Code().GetSel(), Range(At(0, 4), At(0, 7)));
+    Child<QLineEdit>("txtBuscar").setText("dXos");
+    Click("cmdAnterior");
+    EXPECT_EQ(Code().GetSel(), Range(At(1, 4), At(1, 8)));
 }
 
-TEST_F(FindAndReplace, ClosesWithEscape) {
-    FindDialog &dialog = Open();
-    QTest::keyClick(&dialog, Qt::Key_Escape);
-    EXPECT_FALSE(dialog.isVisible());
-}
-
-TEST_F(FindAndReplace, TellsTheEditorsListenersWhatItReplaced) {
-    LoadCode("uno");
-    QSignalSpy changes(&Code(), &ScintillaEditor::TextChanged);
+TEST_F(FindAndReplace, ShowsAMatchFarAwayInTheMiddle) {
+    LoadCode(QByteArray("x\n").repeated(500) + "uno\n" + QByteArray("x\n").repeated(500));
     Look("uno");
-    Child<QLineEdit>("txtReemplazar").setText("x");
-    Click("cmdReemplazarTodo");
-    QCoreApplication::processEvents();
-    EXPECT_EQ(changes.count(), 1);
+    Click("cmdSiguiente");
+    const ScintillaText text(Code());
+    const auto top = text.Send(QsciScintillaBase::SCI_GETFIRSTVISIBLELINE);
+    const auto shown = text.Send(QsciScintillaBase::SCI_LINESONSCREEN);
+    EXPECT_GT(500, top + shown / 4);
+    EXPECT_LT(500, top + 3 * shown / 4);
+}
+
+TEST_F(FindAndReplace, FindsThePreviousOneWithoutTheDialog) {
+    LoadCode("uno dos uno");
+    Find.Request.Term = "uno";
+    Code().ExecuteCommand(EditorCommand::FindPrevious);
+    EXPECT_EQ(Code().GetSel(), Range(At(0, 8), At(0, 11)));
+    EXPECT_EQ(NoticeIn(Code()), "Se llegó al principio; se sigue desde el final.");
+    Code().ExecuteCommand(EditorCommand::FindPrevious);
+    EXPECT_EQ(Code().GetSel(), Range(At(0, 0), At(0, 3)));
+    EXPECT_EQ(NoticeIn(Code()), "");
+    EXPECT_FALSE(Find.Dialog);
+}
+
+TEST_F(FindAndReplace, TellsInTheOpenDialogWhenFindNextFindsNothing) {
+    LoadCode("uno");
+    Look("cuatro");
+    Click("cmdSiguiente");
+    Child<QLineEdit>("txtBuscar").setText("cinco");
+    Code().ExecuteCommand(EditorCommand::FindNext);
+    EXPECT_EQ(Result(), "No se encuentra «cuatro».");
+    EXPECT_EQ(NoticeIn(Code()), "");
 }
 
 } // namespace Quillbox::Test

@@ -1,175 +1,193 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/qt/FindDialog.h"
 
-#include "platform/qt/ScintillaText.h"
+#include "editor/FindHistory.h"
+#include "platform/qt/FindMessages.h"
+#include "platform/qt/FindPlace.h"
+#include "platform/qt/HistoryBox.h"
+#include "platform/qt/ScintillaReplace.h"
 
 #include <QCheckBox>
-#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QShortcut>
+#include <QSignalBlocker>
 
 namespace Quillbox {
 
 namespace {
 
-/// Where the buttons stand, to the right of the fields.
-constexpr int ButtonColumn = 2;
+struct SelectedText {
+    QString Term; ///< the selection when it lies in one line
+    bool HasSeveralLines = false;
+};
 
-QString NotFound(const QString &term) { return FindDialog::tr("No se encuentra «%1».").arg(term); }
-
-/// The selection when it lies in one line.
-QString SelectedTerm(const QsciScintillaBase &editor) {
+SelectedText SelectionOf(const QsciScintillaBase &editor) {
     const ScintillaText text(editor);
     const BytePosition start = text.SelectionStart();
     const BytePosition end = text.SelectionEnd();
     if (text.LineOf(start) != text.LineOf(end))
-        return {};
+        return {{}, true};
     const std::string_view bytes = text.Bytes(start, end);
-    return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
-}
-
-FindDialog &DialogFor(FindState &state, QsciScintillaBase &editor) {
-    if (!state.Dialog)
-        state.Dialog = new FindDialog(state, editor.window());
-    return *state.Dialog;
+    return {QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size())), false};
 }
 
 } // namespace
 
 FindDialog::FindDialog(FindState &state, QWidget *parent)
     : QDialog(parent)
-    , State_(state) {
+    , State_(state)
+    , Form_(BuildFindForm(*this))
+    , Target_(this) {
     setObjectName(QStringLiteral("frmBuscarReemplazar"));
     setWindowTitle(tr("Buscar y reemplazar"));
-    new QGridLayout(this);
-    BuildFields();
-    BuildButtons();
-    EnableButtons();
+    Connect();
+    FieldsChanged();
 }
 
-void FindDialog::BuildFields() {
-    auto *grid = static_cast<QGridLayout *>(layout());
-    const auto addField = [&](int row, const QString &name, const QString &caption) {
-        auto *field = new QLineEdit(this);
-        field->setObjectName(name);
-        field->setMinimumWidth(240);
-        auto *label = new QLabel(caption, this);
-        label->setBuddy(field);
-        grid->addWidget(label, row, 0);
-        grid->addWidget(field, row, 1);
-        return field;
-    };
-    const auto addCheck = [&](int row, const QString &name, const QString &caption) {
-        auto *check = new QCheckBox(caption, this);
-        check->setObjectName(name);
-        grid->addWidget(check, row, 1);
-        return check;
-    };
-    Term_ = addField(0, QStringLiteral("txtBuscar"), tr("&Buscar:"));
-    Replacement_ = addField(1, QStringLiteral("txtReemplazar"), tr("&Reemplazar por:"));
-    MatchCase_ =
-        addCheck(2, QStringLiteral("chkMayusculas"), tr("Distinguir &mayúsculas y minúsculas"));
-    WholeWord_ = addCheck(3, QStringLiteral("chkPalabraCompleta"), tr("&Palabra completa"));
-    Result_ = new QLabel(this);
-    Result_->setObjectName(QStringLiteral("lblResultado"));
-    Result_->setWordWrap(true);
-    Result_->setTextFormat(Qt::PlainText);
-    grid->addWidget(Result_, 4, 0, 1, 2);
-    connect(Term_, &QLineEdit::textChanged, this, &FindDialog::EnableButtons);
+void FindDialog::Connect() {
+    connect(Form_.Next, &QPushButton::clicked, this, [this] { Find(FindDirection::Forward); });
+    connect(Form_.Previous, &QPushButton::clicked, this, [this] { Find(FindDirection::Backward); });
+    connect(Form_.Replace, &QPushButton::clicked, this, &FindDialog::Replace);
+    connect(Form_.ReplaceAll, &QPushButton::clicked, this, &FindDialog::ReplaceAll);
+    connect(Form_.Close, &QPushButton::clicked, this, &FindDialog::reject);
+    ConnectKey(Qt::SHIFT | Qt::Key_Return, Form_.Previous);
+    ConnectKey(Qt::SHIFT | Qt::Key_Enter, Form_.Previous);
+    ConnectKey(QKeyCombination(Qt::Key_F3), Form_.Next);
+    ConnectKey(Qt::SHIFT | Qt::Key_F3, Form_.Previous);
+    connect(Form_.Term, &QComboBox::editTextChanged, this, &FindDialog::FieldsChanged);
+    for (const QCheckBox *check : {Form_.MatchCase, Form_.WholeWord, Form_.IsExpression})
+        connect(check, &QCheckBox::toggled, this, &FindDialog::FieldsChanged);
+    connect(Form_.InSelection, &QCheckBox::clicked, this, &FindDialog::LimitClicked);
+    connect(&Target_, &FindTarget::ScopeLost, this, &FindDialog::ShowLimit);
+    connect(&Target_, &FindTarget::CountChanged, this,
+            [this] { Form_.Count->setText(Target_.CountText()); });
 }
 
-void FindDialog::BuildButtons() {
-    AddButton(QStringLiteral("cmdSiguiente"), tr("&Siguiente"), &FindDialog::FindForward)
-        ->setDefault(true);
-    AddButton(QStringLiteral("cmdAnterior"), tr("&Anterior"), &FindDialog::FindBackward);
-    AddButton(QStringLiteral("cmdReemplazar"), tr("Reempla&zar"), &FindDialog::Replace);
-    AddButton(QStringLiteral("cmdReemplazarTodo"), tr("Reemplazar &todo"), &FindDialog::ReplaceAll);
-    AddButton(QStringLiteral("cmdCerrar"), tr("&Cerrar"), &FindDialog::reject);
+void FindDialog::ConnectKey(QKeyCombination key, QPushButton *button) {
+    auto *shortcut = new QShortcut(QKeySequence(key), this);
+    connect(shortcut, &QShortcut::activated, button, &QPushButton::click);
 }
 
-QPushButton *FindDialog::AddButton(const QString &name, const QString &caption,
-                                   void (FindDialog::*action)()) {
-    auto *button = new QPushButton(caption, this);
-    button->setObjectName(name);
-    button->setAutoDefault(false);
-    connect(button, &QPushButton::clicked, this, action);
-    Buttons_.push_back(button);
-    auto *grid = static_cast<QGridLayout *>(layout());
-    grid->addWidget(button, static_cast<int>(Buttons_.size()) - 1, ButtonColumn);
-    return button;
-}
-
-void FindDialog::Open(const QString &term) {
-    Term_->setText(term.isEmpty() ? State_.Request.Term : term);
-    Replacement_->setText(State_.Replacement);
-    MatchCase_->setChecked(State_.Request.MatchCase);
-    WholeWord_->setChecked(State_.Request.WholeWord);
-    Result_->clear();
+void FindDialog::Open() {
+    const bool wasOpen = isVisible();
+    const SelectedText selected = SelectionOf(*State_.Editor);
+    if (!wasOpen)
+        PlaceOverCorner(*this, *State_.Editor);
     show();
+    FollowEditor();
+    if (selected.HasSeveralLines)
+        Target_.LimitToSelection();
+    ShowState(selected.Term.isEmpty() ? State_.Request.Term : selected.Term);
     raise();
     activateWindow();
-    Term_->setFocus();
-    Term_->selectAll();
+    Form_.Term->setFocus();
+    Form_.Term->lineEdit()->selectAll();
 }
 
-void FindDialog::ShowResult(const QString &text) { Result_->setText(text); }
+void FindDialog::ShowState(const QString &term) {
+    Form_.Term->SetHistory(State_.Terms);
+    Form_.Replacement->SetHistory(State_.Replacements);
+    Form_.Term->SetText(term);
+    Form_.Replacement->SetText(State_.Replacement);
+    Form_.MatchCase->setChecked(State_.Request.MatchCase);
+    Form_.WholeWord->setChecked(State_.Request.WholeWord);
+    Form_.IsExpression->setChecked(State_.Request.IsExpression);
+    Form_.Wrap->setChecked(State_.Wrap);
+    ShowLimit();
+    FieldsChanged();
+}
+
+void FindDialog::hideEvent(QHideEvent *event) {
+    QDialog::hideEvent(event);
+    EmptyMatch_.reset();
+    Target_.Follow(nullptr);
+}
+
+void FindDialog::FollowEditor() {
+    if (isVisible())
+        Target_.Follow(State_.Editor);
+}
+
+FindRequest FindDialog::RequestOfFields() const {
+    return {Form_.Term->Text(), Form_.MatchCase->isChecked(), Form_.WholeWord->isChecked(),
+            Form_.IsExpression->isChecked()};
+}
+
+/// What was said about another term is taken away; a mistake in an expression shows at once.
+void FindDialog::FieldsChanged() {
+    const FindRequest request = RequestOfFields();
+    for (QPushButton *button : Form_.Actions())
+        button->setEnabled(!request.Term.isEmpty());
+    Target_.Look(request);
+    const MadeSearch made = MakeSearch(request, {});
+    const auto *bad = std::get_if<BadExpression>(&made);
+    ShowResult(bad != nullptr && !request.Term.isEmpty() ? bad->Reason : QString());
+}
+
+void FindDialog::LimitClicked(bool limited) {
+    ShowResult({});
+    if (!limited)
+        Target_.Unlimit();
+    else if (!Target_.LimitToSelection())
+        ShowResult(tr("No hay texto seleccionado."));
+    ShowLimit();
+}
+
+void FindDialog::ShowLimit() { Form_.InSelection->setChecked(Target_.Scope().has_value()); }
+
+void FindDialog::ShowResult(const QString &text) { Form_.Result->setText(text); }
 
 bool FindDialog::ReadFields() {
-    State_.Request = {Term_->text(), MatchCase_->isChecked(), WholeWord_->isChecked()};
-    State_.Replacement = Replacement_->text();
-    const bool showsDocument = State_.Editor && State_.Editor->isVisible();
-    if (showsDocument)
-        Result_->clear();
-    else
-        ShowResult(tr("No hay ningún documento a la vista."));
+    State_.Request = RequestOfFields();
+    State_.Replacement = Form_.Replacement->Text();
+    State_.Wrap = Form_.Wrap->isChecked();
+    RememberText(State_.Terms, State_.Request.Term);
+    Form_.Term->SetHistory(State_.Terms);
+    const bool showsDocument = ShowsDocument();
+    ShowResult(showsDocument ? QString() : tr("No hay ningún documento a la vista."));
     return showsDocument && !State_.Request.Term.isEmpty();
 }
 
+void FindDialog::MatchFound(const FindOutcome &outcome) {
+    EmptyMatch_.reset();
+    if (outcome.Match && outcome.Match->Start == outcome.Match->End)
+        EmptyMatch_ = outcome.Match->Start;
+    if (outcome.Match)
+        UncoverSelection(*this, *State_.Editor);
+}
+
 void FindDialog::Find(FindDirection direction) {
-    if (ReadFields() && !SelectMatch(*State_.Editor, State_.Request, direction))
-        ShowResult(NotFound(State_.Request.Term));
+    if (ReadFields())
+        Repeat(direction);
+}
+
+void FindDialog::Repeat(FindDirection direction) {
+    const FindOutcome outcome = SelectMatch(*State_.Editor, Task(), direction);
+    ShowResult(MessageOf(outcome, Task(), direction));
+    MatchFound(outcome);
 }
 
 void FindDialog::Replace() {
     if (!ReadFields())
         return;
-    const Replaced replaced = ReplaceMatch(*State_.Editor, State_.Request, State_.Replacement);
-    if (!replaced.FoundNext)
-        ShowResult(replaced.Selection ? tr("No quedan más apariciones.")
-                                      : NotFound(State_.Request.Term));
+    RememberText(State_.Replacements, State_.Replacement);
+    Form_.Replacement->SetHistory(State_.Replacements);
+    const std::int64_t caret = ScintillaText(*State_.Editor).Caret();
+    const Replaced replaced =
+        ReplaceMatch(*State_.Editor, Task(), State_.Replacement,
+                     EmptyMatch_ == caret ? EmptyMatch::Taken : EmptyMatch::Passed);
+    ShowResult(MessageOf(replaced, Task()));
+    MatchFound(replaced.Next);
 }
 
 void FindDialog::ReplaceAll() {
     if (!ReadFields())
         return;
-    const int count = ReplaceAllMatches(*State_.Editor, State_.Request, State_.Replacement);
-    if (count == 0)
-        ShowResult(NotFound(State_.Request.Term));
-    else
-        ShowResult(count == 1 ? tr("Se ha reemplazado 1 aparición.")
-                              : tr("Se han reemplazado %1 apariciones.").arg(count));
-}
-
-void FindDialog::EnableButtons() {
-    for (QPushButton *button : Buttons_)
-        button->setEnabled(!Term_->text().isEmpty() || button == Buttons_.back());
-}
-
-void ShowFindDialog(FindState &state, QsciScintillaBase &editor) {
-    state.Editor = &editor;
-    DialogFor(state, editor).Open(SelectedTerm(editor));
-}
-
-void FindNext(FindState &state, QsciScintillaBase &editor) {
-    if (state.Request.Term.isEmpty())
-        return ShowFindDialog(state, editor);
-    state.Editor = &editor;
-    if (SelectMatch(editor, state.Request, FindDirection::Forward))
-        return;
-    FindDialog &dialog = DialogFor(state, editor);
-    dialog.Open(state.Request.Term);
-    dialog.ShowResult(NotFound(state.Request.Term));
+    RememberText(State_.Replacements, State_.Replacement);
+    Form_.Replacement->SetHistory(State_.Replacements);
+    ShowResult(MessageOf(ReplaceAllMatches(*State_.Editor, Task(), State_.Replacement), Task()));
 }
 
 } // namespace Quillbox

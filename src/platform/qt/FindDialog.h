@@ -1,56 +1,71 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/qt/FindForm.h"
+#include "platform/qt/FindTarget.h"
 #include "platform/qt/ScintillaSearch.h"
 
 #include <QDialog>
 
-#include <vector>
-
-class QCheckBox;
-class QLabel;
-class QLineEdit;
-class QPushButton;
-
 namespace Quillbox {
 
-/// Finds and replaces in the editor that had the keyboard last. Stays open beside the editors.
+/// Finds and replaces in the editor that had the keyboard last. Stays open beside the editors and
+/// marks the matches meanwhile.
 class FindDialog final : public QDialog {
     Q_OBJECT
   public:
     FindDialog(FindState &state, QWidget *parent);
 
-    /// Comes to the front, ready for a new term; `term` is proposed when it is not empty.
-    void Open(const QString &term);
-    void ShowResult(const QString &text);
+    /// Comes to the front, ready for a new term: the selected text of one line is proposed. Several
+    /// selected lines are what it is limited to.
+    void Open();
+    /// Finds what the state says, whatever is in the fields now.
+    void Repeat(FindDirection direction);
+
+    /// The state's editor is another one.
+    void FollowEditor();
+    void TextReplaced() { Target_.TextReplaced(); }
+
+  protected:
+    void hideEvent(QHideEvent *event) override;
 
   private:
-    void BuildFields();
-    void BuildButtons();
-    QPushButton *AddButton(const QString &name, const QString &caption,
-                           void (FindDialog::*action)());
+    void Connect();
+    void ConnectKey(QKeyCombination key, QPushButton *button);
     void Find(FindDirection direction);
-    void FindForward() { Find(FindDirection::Forward); }
-    void FindBackward() { Find(FindDirection::Backward); }
     void Replace();
     void ReplaceAll();
+
+    bool ShowsDocument() const { return State_.Editor && State_.Editor->isVisible(); }
+    FindRequest RequestOfFields() const;
+    FindTask Task() const { return {State_.Request, State_.Wrap, Target_.Scope()}; }
     /// Takes over what the fields say; false when there is no editor or nothing to look for.
     bool ReadFields();
-    void EnableButtons();
+    void ShowState(const QString &term);
+    void FieldsChanged();
+    void LimitClicked(bool limited);
+    void ShowLimit();
+    void ShowResult(const QString &text);
+    /// What was found decides what "replace" does next.
+    void MatchFound(const FindOutcome &outcome);
 
     FindState &State_;
-    QLineEdit *Term_ = nullptr;
-    QLineEdit *Replacement_ = nullptr;
-    QCheckBox *MatchCase_ = nullptr;
-    QCheckBox *WholeWord_ = nullptr;
-    QLabel *Result_ = nullptr;
-    std::vector<QPushButton *> Buttons_; ///< from top to bottom; the last one closes
+    FindForm Form_;
+    FindTarget Target_;
+    std::optional<std::int64_t> EmptyMatch_; ///< where a match without text was found last
 };
 
-/// Opens the dialog for `editor` with the selected word as the term.
+/// Opens the dialog for `editor`.
 void ShowFindDialog(FindState &state, QsciScintillaBase &editor);
 
-/// Selects the next match of the last term; opens the dialog when there is no term or no match.
-void FindNext(FindState &state, QsciScintillaBase &editor);
+/// Selects the next match of the last request in that direction; a notice in the editor tells what
+/// there is to tell while the dialog is closed. Opens the dialog when there is no term.
+void FindAgain(FindState &state, QsciScintillaBase &editor, FindDirection direction);
+
+/// `editor` has got the keyboard.
+void FollowFocus(FindState &state, QsciScintillaBase &editor);
+
+/// `editor` shows another text.
+void TellTextReplaced(const FindState &state, const QsciScintillaBase &editor);
 
 } // namespace Quillbox

@@ -47,10 +47,12 @@ ScintillaAccessibility::ScintillaAccessibility(ScintillaEditor &editor)
     });
 }
 
-/// About to happen: what goes can be read now, what comes only when it is there.
+/// Mostly about to happen: what goes can be read now, what comes only when it is there. A bulk
+/// change is over already.
 void ScintillaAccessibility::Modified(BytePosition position, int type, int length) {
     TellInserted();
-    if (length > MostToldBytes) {
+    const bool isOver = (type & (Sci::SC_MOD_INSERTTEXT | Sci::SC_MOD_DELETETEXT)) != 0;
+    if (isOver || length > MostToldBytes) {
         QAccessibleEvent event(&Editor_, QAccessible::VisibleDataChanged);
         QAccessible::updateAccessibility(&event);
     } else if ((type & Sci::SC_MOD_BEFOREINSERT) != 0) {

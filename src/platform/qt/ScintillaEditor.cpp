@@ -8,7 +8,6 @@
 #include "platform/qt/ScintillaCompletion.h"
 #include "platform/qt/ScintillaKeys.h"
 #include "platform/qt/ScintillaMarks.h"
-#include "platform/qt/ScintillaSearch.h"
 #include "platform/qt/ScintillaZoom.h"
 
 #include <QPointer>
@@ -45,6 +44,7 @@ ScintillaEditor::ScintillaEditor(const LanguageCatalogue &languages, FindState &
     , Dialogs_(dialogs)
     , Text_(*this)
     , Styles_(Text_)
+    , BulkSteps_(*this)
     , Colouring_(Text_) {
     new ScintillaAccessibility(*this);
     setAccessibleName(tr("Editor de código"));
@@ -57,6 +57,11 @@ ScintillaEditor::ScintillaEditor(const LanguageCatalogue &languages, FindState &
     connect(this, &QsciScintillaBase::SCN_STYLENEEDED, this,
             [this](int position) { Colouring_.ColourUpTo(position); });
     connect(this, &QsciScintillaBase::SCN_MODIFIED, this, &ScintillaEditor::OnModified);
+    connect(this, &QsciScintillaBase::SCN_MODIFIED, this,
+            [this](int, int type, const char *, int, int, int, int, int, int token) {
+                if ((type & SC_MOD_CONTAINER) != 0)
+                    BulkSteps_.TokenReported(token);
+            });
     connect(this, &QsciScintillaBase::SCN_SAVEPOINTLEFT, this, &ScintillaEditor::TellChangesSoon);
     connect(this, &QsciScintillaBase::SCN_SAVEPOINTREACHED, this,
             &ScintillaEditor::TellChangesSoon);
@@ -79,7 +84,7 @@ void ScintillaEditor::AddAssistants() {
 void ScintillaEditor::SetUpControl() {
     // What has happened already is also reported to the component's own interface for assistive
     // tools, which counts all characters before the place, each time, even without such a tool.
-    Text_.Send(SCI_SETMODEVENTMASK, SC_MOD_BEFOREINSERT | SC_MOD_BEFOREDELETE);
+    Text_.Send(SCI_SETMODEVENTMASK, SC_MOD_BEFOREINSERT | SC_MOD_BEFOREDELETE | SC_MOD_CONTAINER);
     Text_.Send(SCI_USEPOPUP, 0);
     Text_.Send(SCI_SETSCROLLWIDTHTRACKING, 1);
     Text_.Send(SCI_SETSCROLLWIDTH, 1);
@@ -132,9 +137,9 @@ void ScintillaEditor::SetTabSize(int columns) { Styles_.SetTabSize(columns); }
 void ScintillaEditor::SetLineNumbers(bool shown) { Styles_.SetLineNumbers(shown); }
 
 void ScintillaEditor::OnModified(int position, int type, const char *, int length) {
-    if ((type & SC_MOD_BEFOREINSERT) != 0)
+    if ((type & InsertionReport) != 0)
         Colouring_.TextInserted(position, length);
-    else if ((type & SC_MOD_BEFOREDELETE) != 0)
+    else if ((type & DeletionReport) != 0)
         Colouring_.TextDeleted(position, length);
     else
         return;

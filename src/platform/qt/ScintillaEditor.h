@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/EditorControl.h"
+#include "platform/qt/ScintillaBulkEdit.h"
 #include "platform/qt/ScintillaColouring.h"
 #include "platform/qt/ScintillaStyles.h"
 
@@ -133,6 +134,7 @@ class ScintillaEditor final : public QsciScintillaBase, public EditorControl {
     Dialogs &Dialogs_;
     ScintillaText Text_;
     ScintillaStyles Styles_;
+    BulkSteps BulkSteps_;
     mutable ScintillaColouring Colouring_; ///< asking for a token's class colours its line
     ScintillaCompletion *Completion_ = nullptr;
     QString Language_;

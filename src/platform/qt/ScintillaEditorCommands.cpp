@@ -73,7 +73,10 @@ void ScintillaEditor::ExecuteCommand(EditorCommand command) {
         ShowFindDialog(Find_, *this);
         break;
     case EditorCommand::FindNext:
-        FindNext(Find_, *this);
+        FindAgain(Find_, *this, FindDirection::Forward);
+        break;
+    case EditorCommand::FindPrevious:
+        FindAgain(Find_, *this, FindDirection::Backward);
         break;
     case EditorCommand::DeleteNextCharacter:
         Perform([this] { Text_.Send(SCI_CLEAR); });

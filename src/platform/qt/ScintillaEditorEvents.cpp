@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/qt/FindDialog.h"
 #include "platform/qt/ScintillaCarets.h"
 #include "platform/qt/ScintillaEditor.h"
 #include "platform/qt/ScintillaKeys.h"
-#include "platform/qt/ScintillaSearch.h"
 
 #include <QContextMenuEvent>
 #include <QInputMethodEvent>
@@ -99,7 +99,7 @@ void ScintillaEditor::contextMenuEvent(QContextMenuEvent *event) {
 
 void ScintillaEditor::focusInEvent(QFocusEvent *event) {
     QsciScintillaBase::focusInEvent(event);
-    Find_.Editor = this;
+    FollowFocus(Find_, *this);
     emit FocusReceived();
 }
 

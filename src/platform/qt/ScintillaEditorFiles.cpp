@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/Dialogs.h"
+#include "platform/qt/FindDialog.h"
 #include "platform/qt/ScintillaEditor.h"
 #include "platform/qt/ScintillaFiles.h"
 
@@ -42,6 +43,7 @@ void ScintillaEditor::TakeContentsFrom(EditorControl &other) {
     auto &source = dynamic_cast<ScintillaEditor &>(other);
     if (&source == this)
         return;
+    FindMarks::Remove(source.Text_);
     Text_.Send(SCI_SETDOCPOINTER, 0, source.Text_.Send(SCI_GETDOCPOINTER));
     Styles_.TextReplaced();
     Colouring_.TakeOver(source.Colouring_);
@@ -56,6 +58,7 @@ void ScintillaEditor::TakeContentsFrom(EditorControl &other) {
 void ScintillaEditor::TellOtherText() {
     Styles_.TextLinesChanged();
     TellChanges();
+    TellTextReplaced(Find_, *this);
 }
 
 } // namespace Quillbox

@@ -11,6 +11,11 @@ inline constexpr int Bookmark = 1;
 inline constexpr int Highlight = 2;
 } // namespace LineMark
 
+/// Marks of stretches of text by their numbers; below 8 they are the component's own.
+namespace Indicator {
+inline constexpr int Match = 20;
+} // namespace Indicator
+
 /// The component's margins from left to right.
 namespace Margin {
 inline constexpr int Bookmarks = 0;

@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/qt/ScintillaSearch.h"
 
-#include "editor/WordSet.h"
-#include "platform/qt/ScintillaText.h"
+#include "platform/qt/ScintillaPieces.h"
 
-#include <array>
-#include <string>
-#include <vector>
+#include <QCoreApplication>
 
 namespace Quillbox {
 
@@ -14,165 +11,148 @@ namespace {
 
 using Sci = QsciScintillaBase;
 
-struct Match {
-    BytePosition Start = -1;
-    BytePosition End = -1;
-};
+/// What an expression is given, and more for each megabyte: no sensible one comes near.
+constexpr std::chrono::milliseconds ShortSearch(4000);
+constexpr std::chrono::milliseconds ForEachMegabyte(50);
+constexpr BytePosition Megabyte = 1000 * 1000;
 
-/// The character that starts at `position` of UTF-8 without characters beyond 16 bits, and its
-/// length in bytes.
-struct Character {
-    char16_t Code;
-    std::size_t Length;
-};
-
-Character CharacterAt(std::string_view utf8, std::size_t position) {
-    const auto byte = [&](std::size_t offset) {
-        const std::size_t place = position + offset;
-        return place < utf8.size() ? static_cast<unsigned char>(utf8[place]) : 0U;
-    };
-    if (byte(0) < 0xC0)
-        return {static_cast<char16_t>(byte(0)), 1};
-    if (byte(0) < 0xE0)
-        return {static_cast<char16_t>((byte(0) & 0x1F) << 6 | (byte(1) & 0x3F)), 2};
-    return {
-        static_cast<char16_t>((byte(0) & 0x0F) << 12 | (byte(1) & 0x3F) << 6 | (byte(2) & 0x3F)),
-        3};
-}
-
-/// Looks for one request in one text. The component's own search takes only ASCII letters of both
-/// cases for the same.
-class Search {
+/// Looks for one request in one text.
+class Finder {
   public:
-    Search(QsciScintillaBase &editor, const FindRequest &request)
-        : Text_(editor)
-        , MatchCase_(request.MatchCase)
-        , WholeWord_(request.WholeWord) {
-        for (const QChar character : request.Term)
-            Term_ += Folded(character.unicode());
-        if (Term_.empty())
-            return;
-        const QChar first(Term_.front());
-        for (const QChar form : {first, first.toUpper(), first.toLower()})
-            MayStart_[static_cast<unsigned char>(QString(form).toUtf8().front())] = true;
+    Finder(const ScintillaText &text, const FindTask &task, TextSearch &search)
+        : Text_(text)
+        , Search_(search)
+        , Range_(RangeOf(task, text))
+        , Selection_{text.SelectionStart(), text.SelectionEnd()}
+        , Wrap_(task.Wrap) {
+        StartsOver_ = task.Scope && Selection_ == Range_;
     }
 
-    const ScintillaText &Text() const { return Text_; }
-
-    /// The first match that starts at `from` or behind; Start -1 for none.
-    Match FindForward(BytePosition from) const {
-        const std::string_view text = WholeText();
-        for (auto start = static_cast<std::size_t>(from); start < text.size(); ++start)
-            if (const Match match = MatchAt(text, start); match.Start >= 0)
-                return match;
-        return {};
-    }
-
-    /// The last match that ends at `to` or before.
-    Match FindBackward(BytePosition to) const {
-        const std::string_view text = WholeText();
-        for (auto start = static_cast<std::size_t>(to); start-- > 0;)
-            if (const Match match = MatchAt(text, start); match.Start >= 0 && match.End <= to)
-                return match;
-        return {};
-    }
-
-    Match FindFromSelection(FindDirection direction) const {
-        if (direction == FindDirection::Forward) {
-            const Match match = FindForward(Text_.SelectionEnd());
-            return match.Start >= 0 ? match : FindForward(0);
-        }
-        const Match match = FindBackward(Text_.SelectionStart());
-        return match.Start >= 0 ? match : FindBackward(Text_.Length());
-    }
-
-    bool IsMatch(BytePosition start, BytePosition end) const {
-        return start < end && MatchAt(WholeText(), static_cast<std::size_t>(start)).End == end;
+    FindOutcome Find(FindDirection direction) {
+        const bool forward = direction == FindDirection::Forward;
+        if (forward)
+            FindForward(StartsOver_ ? Range_.Start : Selection_.End, Range_.End);
+        else
+            FindBackward(Range_.Start, StartsOver_ ? Range_.End : Selection_.Start);
+        if (Outcome_.Match || !Outcome_.Problem.isEmpty() || !Wrap_ || StartsOver_)
+            return Outcome_;
+        MayBeAtCaret_ = true;
+        if (forward)
+            FindForward(Range_.Start, Selection_.End);
+        else
+            FindBackward(Selection_.Start, Range_.End);
+        Outcome_.Wrapped = Outcome_.Match.has_value();
+        return Outcome_;
     }
 
   private:
-    std::string_view WholeText() const { return Text_.Bytes(0, Text_.Length()); }
-
-    char16_t Folded(char16_t code) const {
-        if (MatchCase_)
-            return code;
-        if (code >= 0x80)
-            return QChar(code).toCaseFolded().unicode();
-        return code >= u'A' && code <= u'Z' ? static_cast<char16_t>(code - u'A' + u'a') : code;
+    bool Counts(const MovingRange &match) const {
+        const bool isAtCaret = match.Start == match.End && match == Selection_;
+        return match.Start >= Range_.Start && match.End <= Range_.End &&
+               (MayBeAtCaret_ || !isAtCaret);
     }
 
-    Match MatchAt(std::string_view text, std::size_t start) const {
-        if (!MayStart_[static_cast<unsigned char>(text[start])])
-            return {};
-        std::size_t end = start;
-        for (const char16_t wanted : Term_) {
-            if (end >= text.size())
-                return {};
-            const Character character = CharacterAt(text, end);
-            if (Folded(character.Code) != wanted)
-                return {};
-            end += character.Length;
-        }
-        const bool inWord = (start > 0 && IsWordByte(text[start - 1])) ||
-                            (end < text.size() && IsWordByte(text[end]));
-        if (WholeWord_ && inWord)
-            return {};
-        return {static_cast<BytePosition>(start), static_cast<BytePosition>(end)};
+    /// The first match that starts at `from` or behind, in no line behind that of `to`.
+    void FindForward(std::int64_t from, std::int64_t to) {
+        const BytePosition start = Inside(from);
+        const auto visit = [&](const TextPiece &piece) {
+            const auto keep = [&](const TextMatch &match) {
+                const MovingRange range = InText(match.Range, piece);
+                if (Counts(range))
+                    Outcome_.Match = range;
+                return !Outcome_.Match && range.Start <= Range_.End;
+            };
+            const BytePosition inPiece = std::max<BytePosition>(start - piece.Start, 0);
+            Take(Search_.VisitMatches(piece.Bytes, static_cast<std::size_t>(inPiece), keep));
+            return !IsDone();
+        };
+        if (start <= Inside(to))
+            VisitPieces(Text_, start, Inside(to), PieceOrder::Forward, visit);
     }
 
-    ScintillaText Text_;
-    bool MatchCase_;
-    bool WholeWord_;
-    std::u16string Term_;              ///< folded
-    std::array<bool, 256> MayStart_{}; ///< by the first byte of a match
+    /// The last match that ends at `to` or before, in no line before that of `from`.
+    void FindBackward(std::int64_t from, std::int64_t to) {
+        const BytePosition end = Inside(to);
+        const auto visit = [&](const TextPiece &piece) {
+            const auto counts = [&](ByteRange match) { return Counts(InText(match, piece)); };
+            const auto inPiece = static_cast<std::size_t>(end - piece.Start);
+            const TextSearch::Last last =
+                Search_.FindLast(piece.Bytes, std::min(inPiece, piece.Bytes.size()), counts);
+            if (last.Match)
+                Outcome_.Match = InText(*last.Match, piece);
+            Take(last.End);
+            return !IsDone();
+        };
+        if (Inside(from) <= end)
+            VisitPieces(Text_, Inside(from), end, PieceOrder::Backward, visit);
+    }
+
+    BytePosition Inside(std::int64_t place) const {
+        return static_cast<BytePosition>(std::clamp(place, Range_.Start, Range_.End));
+    }
+
+    static MovingRange InText(ByteRange range, const TextPiece &piece) {
+        return {piece.Start + static_cast<BytePosition>(range.Start),
+                piece.Start + static_cast<BytePosition>(range.End)};
+    }
+
+    void Take(SearchEnd end) {
+        if (end == SearchEnd::TooCostly)
+            Outcome_.Problem = TooCostlyProblem();
+    }
+    bool IsDone() const { return Outcome_.Match || !Outcome_.Problem.isEmpty(); }
+
+    const ScintillaText &Text_;
+    TextSearch &Search_;
+    MovingRange Range_;
+    MovingRange Selection_;
+    bool Wrap_;
+    bool StartsOver_ = false;
+    bool MayBeAtCaret_ = false;
+    FindOutcome Outcome_;
 };
-
-bool Select(const ScintillaText &text, Match match) {
-    if (match.Start < 0)
-        return false;
-    text.Send(Sci::SCI_SETSEL, match.Start, match.End);
-    return true;
-}
 
 } // namespace
 
-bool SelectMatch(QsciScintillaBase &editor, const FindRequest &request, FindDirection direction) {
-    const Search search(editor, request);
-    return Select(search.Text(), search.FindFromSelection(direction));
+std::chrono::milliseconds LongestSearch(const ScintillaText &text) {
+    return ShortSearch + ForEachMegabyte * (text.Length() / Megabyte);
 }
 
-Replaced ReplaceMatch(QsciScintillaBase &editor, const FindRequest &request,
-                      const QString &replacement) {
-    const Search search(editor, request);
-    const ScintillaText &text = search.Text();
-    const BytePosition start = text.SelectionStart();
-    const bool isMatch = search.IsMatch(start, text.SelectionEnd());
-    if (isMatch) {
-        const QByteArray bytes = EditorBytes(replacement);
-        text.Replace(start, text.SelectionEnd(), bytes.toStdString());
-        text.Send(Sci::SCI_SETEMPTYSELECTION, start + bytes.size());
-    }
-    return {isMatch, Select(text, search.FindFromSelection(FindDirection::Forward))};
+QString TooCostlyProblem() {
+    return QCoreApplication::translate("Quillbox::ScintillaSearch",
+                                       "La expresión es demasiado costosa para este texto.");
 }
 
-int ReplaceAllMatches(QsciScintillaBase &editor, const FindRequest &request,
-                      const QString &replacement) {
-    const Search search(editor, request);
-    const ScintillaText &text = search.Text();
-    const std::string bytes = EditorBytes(replacement).toStdString();
-    const UndoStep step(text);
-    // All matches before the first replacement: looking at the whole text has the component close
-    // the gap at the place of the last edit, which costs a pass over the text.
-    std::vector<Match> matches;
-    for (Match match = search.FindForward(0); match.Start >= 0;
-         match = search.FindForward(match.End))
-        matches.push_back(match);
-    BytePosition shift = 0;
-    for (const Match &match : matches) {
-        text.Replace(match.Start + shift, match.End + shift, bytes);
-        shift += static_cast<BytePosition>(bytes.size()) - (match.End - match.Start);
-    }
-    return static_cast<int>(matches.size());
+MovingRange RangeOf(const FindTask &task, const ScintillaText &text) {
+    const std::int64_t length = text.Length();
+    if (!task.Scope)
+        return {0, length};
+    return {std::min<std::int64_t>(task.Scope->Start, length),
+            std::min<std::int64_t>(task.Scope->End, length)};
+}
+
+FindOutcome SelectMatch(QsciScintillaBase &editor, const FindTask &task, FindDirection direction) {
+    const ScintillaText text(editor);
+    MadeSearch made = MakeSearch(task.Request, LongestSearch(text));
+    if (const auto *bad = std::get_if<BadExpression>(&made))
+        return {std::nullopt, false, bad->Reason};
+    Finder finder(text, task, *std::get<std::unique_ptr<TextSearch>>(made));
+    const FindOutcome outcome = finder.Find(direction);
+    if (outcome.Match)
+        SelectInView(text, *outcome.Match);
+    return outcome;
+}
+
+void SelectInView(const ScintillaText &text, const MovingRange &range) {
+    const auto start = static_cast<BytePosition>(range.Start);
+    const int line = text.LineOf(start).Value;
+    text.Send(Sci::SCI_ENSUREVISIBLE, line);
+    const std::intptr_t shown = text.Send(Sci::SCI_VISIBLEFROMDOCLINE, line);
+    const std::intptr_t top = text.Send(Sci::SCI_GETFIRSTVISIBLELINE);
+    const std::intptr_t count = text.Send(Sci::SCI_LINESONSCREEN);
+    if (shown < top || shown >= top + count)
+        text.Send(Sci::SCI_SETFIRSTVISIBLELINE, std::max<std::intptr_t>(shown - count / 2, 0));
+    text.Send(Sci::SCI_SETSEL, start, static_cast<BytePosition>(range.End));
 }
 
 } // namespace Quillbox

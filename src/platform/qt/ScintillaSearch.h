@@ -1,46 +1,33 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QPointer>
-#include <QString>
-
-#include <Qsci/qsciscintillabase.h>
+#include "platform/qt/FindState.h"
+#include "platform/qt/ScintillaText.h"
 
 namespace Quillbox {
 
-class FindDialog;
-
-struct FindRequest {
-    QString Term;
-    bool MatchCase = false;
-    bool WholeWord = false;
-};
-
 enum class FindDirection { Forward, Backward };
 
-/// What all editors share about finding: one dialog, the last request, the editor it works on.
-struct FindState {
-    FindRequest Request;
-    QString Replacement;
-    QPointer<QsciScintillaBase> Editor; ///< the one that had the keyboard last
-    QPointer<FindDialog> Dialog;
+struct FindOutcome {
+    std::optional<MovingRange> Match; ///< nothing when there is none
+    bool Wrapped = false;             ///< the match lies beyond the end of the text or scope
+    QString Problem; ///< for the person, when the search could not be made or not to its end
 };
 
-/// Selects the next match behind (or before) the selection, going on at the other end of the text.
-/// False when there is none; then the selection stays.
-bool SelectMatch(QsciScintillaBase &editor, const FindRequest &request, FindDirection direction);
+/// What an expression that takes longer is told of.
+std::chrono::milliseconds LongestSearch(const ScintillaText &text);
 
-struct Replaced {
-    bool Selection; ///< the selection was a match
-    bool FoundNext;
-};
+QString TooCostlyProblem();
 
-/// Replaces the selection when it is a match; then selects the next match.
-Replaced ReplaceMatch(QsciScintillaBase &editor, const FindRequest &request,
-                      const QString &replacement);
+/// The stretch of the text in which matches of `task` count.
+MovingRange RangeOf(const FindTask &task, const ScintillaText &text);
 
-/// Replaces every match in the text as one undo step; returns their number.
-int ReplaceAllMatches(QsciScintillaBase &editor, const FindRequest &request,
-                      const QString &replacement);
+/// Selects the next match behind (or before) the selection and brings it into view. When all of
+/// the scope is selected it begins at its start (or end). An empty match where the caret stands
+/// already is passed over. Without a match the selection stays.
+FindOutcome SelectMatch(QsciScintillaBase &editor, const FindTask &task, FindDirection direction);
+
+/// Selects the stretch; one out of view comes to the middle.
+void SelectInView(const ScintillaText &text, const MovingRange &range);
 
 } // namespace Quillbox

@@ -16,6 +16,13 @@ namespace Quillbox {
 /// A place in the editing component's text in bytes of UTF-8, 0-based.
 using BytePosition = std::intptr_t;
 
+/// Kinds of SCN_MODIFIED that report a change of the text. It is about to happen, but for bulk
+/// changes, which are reported when they are over.
+constexpr int InsertionReport =
+    QsciScintillaBase::SC_MOD_BEFOREINSERT | QsciScintillaBase::SC_MOD_INSERTTEXT;
+constexpr int DeletionReport =
+    QsciScintillaBase::SC_MOD_BEFOREDELETE | QsciScintillaBase::SC_MOD_DELETETEXT;
+
 /// `text` with a "?" in place of each character that the code page lacks.
 QString EditorCharacters(const QString &text);
 /// The same as UTF-8.

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/qt/FindMarks.h"
+
+#include "platform/qt/ScintillaMarks.h"
+#include "platform/qt/ScintillaPieces.h"
+#include "platform/qt/ScintillaSearch.h"
+
+namespace Quillbox {
+
+namespace {
+
+using Sci = QsciScintillaBase;
+
+/// Lines above and below the view that are marked, too: a small step shows no unmarked match.
+constexpr int LinesAround = 20;
+
+/// So that very long lines do not hold up typing.
+constexpr BytePosition MostBytes = 256 * 1024;
+constexpr std::chrono::milliseconds LongestLook(60);
+
+/// Amber is seen on light and on dark paper; it lies beneath the text, which keeps its colour.
+constexpr int Amber = 0x0098F0; // blue, green, red
+constexpr int FillAlpha = 70;
+constexpr int OutlineAlpha = 170;
+
+MovingRange View(const ScintillaText &text) {
+    const auto top = static_cast<int>(text.Send(Sci::SCI_GETFIRSTVISIBLELINE));
+    const auto count = static_cast<int>(text.Send(Sci::SCI_LINESONSCREEN));
+    const auto lineShownAt = [&text](int line) {
+        return text.NearestLine({static_cast<int>(text.Send(Sci::SCI_DOCLINEFROMVISIBLE, line))});
+    };
+    const LineIndex first = lineShownAt(std::max(top - LinesAround, 0));
+    const LineIndex last = lineShownAt(top + count + LinesAround);
+    MovingRange view{text.LineStart(first), text.LineEnd(last)};
+    if (view.End - view.Start <= MostBytes)
+        return view;
+    const BytePosition shown = text.Send(Sci::SCI_POSITIONFROMPOINT, 0, 0);
+    view.Start = std::max<std::int64_t>(view.Start, shown - MostBytes / 4);
+    view.End = std::min<std::int64_t>(view.End, view.Start + MostBytes);
+    return view;
+}
+
+} // namespace
+
+void FindMarks::Prepare(const ScintillaText &text) {
+    text.Send(Sci::SCI_INDICSETSTYLE, Indicator::Match, Sci::INDIC_STRAIGHTBOX);
+    text.Send(Sci::SCI_INDICSETFORE, Indicator::Match, Amber);
+    text.Send(Sci::SCI_INDICSETALPHA, Indicator::Match, FillAlpha);
+    text.Send(Sci::SCI_INDICSETOUTLINEALPHA, Indicator::Match, OutlineAlpha);
+    text.Send(Sci::SCI_INDICSETUNDER, Indicator::Match, 1);
+}
+
+void FindMarks::Remove(const ScintillaText &text) {
+    text.Send(Sci::SCI_SETINDICATORCURRENT, Indicator::Match);
+    text.Send(Sci::SCI_INDICATORCLEARRANGE, 0, text.Length());
+}
+
+void FindMarks::Show(const ScintillaText &text, const FindTask &task) {
+    std::vector<MovingRange> matches = MatchesInView(text, task);
+    // Marking has the component report a change, which would be answered by marking.
+    if (IsShown_ && matches == Shown_)
+        return;
+    Remove(text);
+    for (const MovingRange &match : matches)
+        text.Send(Sci::SCI_INDICATORFILLRANGE, static_cast<BytePosition>(match.Start),
+                  static_cast<BytePosition>(match.End - match.Start));
+    Shown_ = std::move(matches);
+    IsShown_ = true;
+}
+
+std::vector<MovingRange> FindMarks::MatchesInView(const ScintillaText &text, const FindTask &task) {
+    std::vector<MovingRange> matches;
+    if (task.Request.Term.isEmpty() || task.Request == GivenUp_)
+        return matches;
+    MadeSearch made = MakeSearch(task.Request, LongestLook);
+    const auto *search = std::get_if<std::unique_ptr<TextSearch>>(&made);
+    if (search == nullptr)
+        return matches;
+    const MovingRange scope = RangeOf(task, text);
+    const MovingRange view = View(text);
+    const std::int64_t from = std::max(view.Start, scope.Start);
+    const std::int64_t to = std::min(view.End, scope.End);
+    const auto visit = [&](const TextPiece &piece) {
+        const auto keep = [&](const TextMatch &match) {
+            const MovingRange range{piece.Start + static_cast<std::int64_t>(match.Range.Start),
+                                    piece.Start + static_cast<std::int64_t>(match.Range.End)};
+            if (range.End <= to && range.Start < range.End)
+                matches.push_back(range);
+            return range.Start < to;
+        };
+        const std::int64_t inPiece = std::max<std::int64_t>(from - piece.Start, 0);
+        const SearchEnd end =
+            (*search)->VisitMatches(piece.Bytes, static_cast<std::size_t>(inPiece), keep);
+        if (end == SearchEnd::TooCostly)
+            GivenUp_ = task.Request;
+        return end == SearchEnd::Complete;
+    };
+    if (from <= to)
+        VisitPieces(text, static_cast<BytePosition>(from), static_cast<BytePosition>(to),
+                    PieceOrder::Forward, visit);
+    return matches;
+}
+
+} // namespace Quillbox

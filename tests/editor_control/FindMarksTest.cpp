@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "FindFixture.h"
+
+#include <gmock/gmock.h>
+
+#include <QSignalSpy>
+
+namespace Quillbox::Test {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TEST_F(FindAndReplace, MarksAllMatchesWhileItIsOpen) {
+    LoadCode("uno dos Uno\nuno");
+    Look("uno");
+    EXPECT_THAT(Marked(), ElementsAre("uno", "Uno", "uno"));
+    Tick("chkMayusculas");
+    EXPECT_THAT(Marked(), ElementsAre("uno", "uno"));
+    Find.Dialog->close();
+    EXPECT_THAT(Marked(), IsEmpty());
+}
+
+TEST_F(FindAndReplace, MarksWhatIsInViewOnly) {
+    LoadCode(QByteArray("uno\n").repeated(5000));
+    Look("uno");
+    EXPECT_LT(Marked().size(), 200U);
+    Code().SetTopIndex({4000});
+    Paint();
+    const ScintillaText text(Code());
+    EXPECT_NE(text.Send(QsciScintillaBase::SCI_INDICATORVALUEAT, Indicator::Match,
+                        text.LineStart({4002})),
+              0);
+    EXPECT_EQ(text.Send(QsciScintillaBase::SCI_INDICATORVALUEAT, Indicator::Match, 0), 0);
+}
+
+TEST_F(FindAndReplace, MarksFollowEdits) {
+    LoadCode("uno dos");
+    Look("uno");
+    Code().InsertText("uno ", At(0, 0));
+    Paint();
+    EXPECT_THAT(Marked(), ElementsAre("uno", "uno"));
+    Code().InsertText("x", At(0, 1));
+    Paint();
+    EXPECT_THAT(Marked(), ElementsAre("uno"));
+    Code().Undo();
+    Paint();
+    EXPECT_THAT(Marked(), ElementsAre("uno", "uno"));
+}
+
+TEST_F(FindAndReplace, MarksNoMoreThanOnceWhatIsMarkedAlready) {
+    LoadCode("uno dos");
+    Look("uno");
+    Paint();
+    QCoreApplication::processEvents();
+    PaintCounter paints(*Code().viewport());
+    QTest::qWait(100);
+    EXPECT_LE(paints.Count, 1) << "each mark asks for another";
+}
+
+TEST_F(FindAndReplace, MarksAreNoChangeOfTheText) {
+    LoadCode("uno dos");
+    QSignalSpy changes(&Code(), &ScintillaEditor::TextChanged);
+    Look("uno");
+    Find.Dialog->close();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(changes.count(), 0);
+    EXPECT_FALSE(Code().IsModified());
+    EXPECT_FALSE(Code().CanUndo());
+}
+
+TEST_F(FindAndReplace, MarksGoAlongToTheEditorWithTheKeyboard) {
+    LoadCode("uno");
+    Look("uno");
+    const auto other = NewEditor();
+    other->show();
+    ASSERT_TRUE(other->OpenFile(Write("b.bb", "x uno")));
+    QFocusEvent focus(QEvent::FocusIn);
+    QCoreApplication::sendEvent(other.get(), &focus);
+    EXPECT_THAT(Marked(), IsEmpty());
+    const ScintillaText text(*other);
+    EXPECT_NE(text.Send(QsciScintillaBase::SCI_INDICATORVALUEAT, Indicator::Match, 2), 0);
+}
+
+TEST_F(FindAndReplace, MarksDoNotOutliveTheEditorThatGivesItsTextAway) {
+    LoadCode("uno");
+    Look("uno");
+    const auto other = NewEditor();
+    other->TakeContentsFrom(Code());
+    EXPECT_THAT(Marked(), IsEmpty());
+}
+
+TEST_F(FindAndReplace, TellsTheNumberOfMatches) {
+    LoadCode("uno dos uno");
+    Look("uno");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return CountShown() == "2 coincidencias"; }))
+        << CountShown().toStdString();
+    Click("cmdSiguiente");
+    Click("cmdSiguiente");
+    Paint();
+    EXPECT_EQ(CountShown(), "2 de 2");
+    Child<QLineEdit>("txtBuscar").setText("dos");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return CountShown() == "1 coincidencia"; }));
+    Child<QLineEdit>("txtBuscar").setText("cuatro");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return CountShown() == "Sin coincidencias"; }));
+    Child<QLineEdit>("txtBuscar").setText("");
+    EXPECT_EQ(CountShown(), "");
+}
+
+TEST_F(FindAndReplace, CountsAgainWhenTheTextChanges) {
+    LoadCode("uno dos uno");
+    Look("uno");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return CountShown() == "2 coincidencias"; }));
+    Code().InsertText("uno\n", At(0, 0));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return CountShown() == "3 coincidencias"; }))
+        << CountShown().toStdString();
+}
+
+TEST_F(FindAndReplace, CountsEveryMatchOfALongText) {
+    LoadCode(QByteArray("uno dos uno\r\n").repeated(100'000));
+    Look("uno");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return CountShown() == "200.000 coincidencias"; }))
+        << CountShown().toStdString();
+}
+
+} // namespace Quillbox::Test
