@@ -4,6 +4,8 @@
 #include "platform/qt/AccessibleEditor.h"
 #include "platform/qt/ScintillaEditor.h"
 
+#include <utility>
+
 namespace Quillbox {
 
 namespace {
@@ -15,23 +17,27 @@ constexpr int MostToldBytes = 10'000;
 
 QAccessibleInterface *MakeAccessibleEditor(const QString &, QObject *object) {
     auto *editor = qobject_cast<ScintillaEditor *>(object);
-    return editor == nullptr ? nullptr : new AccessibleEditor(*editor);
+    auto *offsets = editor == nullptr ? nullptr : editor->findChild<ScintillaOffsets *>();
+    return offsets == nullptr ? nullptr : new AccessibleEditor(*editor, *offsets);
 }
 
 } // namespace
 
-ScintillaAccessibility::ScintillaAccessibility(ScintillaEditor &editor)
+ScintillaAccessibility::ScintillaAccessibility(ScintillaEditor &editor, ScintillaOffsets &offsets,
+                                               AssistiveTools tools)
     : QObject(&editor)
     , Editor_(editor)
-    , Text_(editor) {
+    , Text_(editor)
+    , Offsets_(offsets)
+    , Tools_(std::move(tools)) {
     QAccessible::installFactory(MakeAccessibleEditor);
     connect(&editor, &Sci::SCN_MODIFIED, this,
             [this](int position, int type, const char *bytes, int length) {
-                if (QAccessible::isActive())
+                if (Tools_.AreThere())
                     TellModified(position, type, bytes, length);
             });
     connect(&editor, &Sci::SCN_UPDATEUI, this, [this] {
-        if (QAccessible::isActive())
+        if (Tools_.AreThere())
             TellCaret();
     });
 }
@@ -42,34 +48,33 @@ void ScintillaAccessibility::TellModified(int position, int type, const char *by
         return;
     if (length > MostToldBytes || bytes == nullptr) {
         QAccessibleEvent event(&Editor_, QAccessible::VisibleDataChanged);
-        return QAccessible::updateAccessibility(&event);
+        return Tools_.Tell(&event);
     }
-    const int offset = ScintillaOffsets(Text_).OffsetOf(position);
+    const int offset = Offsets_.OffsetOf(position);
     const QString text = QString::fromUtf8(bytes, length);
     if (inserted) {
         QAccessibleTextInsertEvent event(&Editor_, offset, text);
-        QAccessible::updateAccessibility(&event);
+        Tools_.Tell(&event);
     } else {
         QAccessibleTextRemoveEvent event(&Editor_, offset, text);
-        QAccessible::updateAccessibility(&event);
+        Tools_.Tell(&event);
     }
 }
 
 void ScintillaAccessibility::TellCaret() {
-    const ScintillaOffsets offsets(Text_);
-    const int caret = offsets.OffsetOf(Text_.Caret());
+    const int caret = Offsets_.OffsetOf(Text_.Caret());
     const bool hasSelection = Text_.SelectionStart() != Text_.SelectionEnd();
     if (hasSelection || HadSelection_) {
-        QAccessibleTextSelectionEvent event(&Editor_, offsets.OffsetOf(Text_.SelectionStart()),
-                                            offsets.OffsetOf(Text_.SelectionEnd()));
+        QAccessibleTextSelectionEvent event(&Editor_, Offsets_.OffsetOf(Text_.SelectionStart()),
+                                            Offsets_.OffsetOf(Text_.SelectionEnd()));
         event.setCursorPosition(caret);
-        QAccessible::updateAccessibility(&event);
+        Tools_.Tell(&event);
     }
     HadSelection_ = hasSelection;
     if (std::exchange(Caret_, caret) == caret)
         return;
     QAccessibleTextCursorEvent event(&Editor_, caret);
-    QAccessible::updateAccessibility(&event);
+    Tools_.Tell(&event);
 }
 
 } // namespace Quillbox

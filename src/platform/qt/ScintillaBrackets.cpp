@@ -167,7 +167,7 @@ void MarkBrackets(const ScintillaText &text, ScintillaColouring &colouring) {
 void GoToMatchingBracket(const ScintillaText &text, ScintillaColouring &colouring) {
     const BracketPair pair = FindBrackets(text, colouring);
     if (pair.Result == Match::Found)
-        text.Send(Sci::SCI_GOTOPOS, pair.Other < pair.Bracket ? pair.Other : pair.Other + 1);
+        text.MoveCaret(pair.Other < pair.Bracket ? pair.Other : pair.Other + 1);
 }
 
 } // namespace Quillbox

@@ -8,6 +8,7 @@
 #include "platform/qt/ScintillaCompletion.h"
 #include "platform/qt/ScintillaKeys.h"
 #include "platform/qt/ScintillaMarks.h"
+#include "platform/qt/ScintillaMouse.h"
 #include "platform/qt/ScintillaSearch.h"
 #include "platform/qt/ScintillaZoom.h"
 
@@ -46,7 +47,6 @@ ScintillaEditor::ScintillaEditor(const LanguageCatalogue &languages, FindState &
     , Text_(*this)
     , Styles_(Text_)
     , Colouring_(Text_) {
-    setAccessibleName(tr("Editor de código"));
     // Without this, each blink of the caret would paint the window behind the editor as well.
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     SetUpControl();
@@ -68,7 +68,9 @@ ScintillaEditor::~ScintillaEditor() = default;
 void ScintillaEditor::AddAssistants() {
     Completion_ = new ScintillaCompletion(*this);
     new ScintillaZoom(*this);
-    new ScintillaAccessibility(*this);
+    new ScintillaMouse(*this);
+    new ScintillaAccessibility(*this, *new ScintillaOffsets(*this));
+    setAccessibleName(tr("Editor de código")); // tells assistive tools, which then look at it
     connect(this, &QsciScintillaBase::SCN_ZOOM, this, [this] { Styles_.ZoomChanged(); });
     connect(this, &QsciScintillaBase::SCN_UPDATEUI, this, [this](int updated) {
         if ((updated & (SC_UPDATE_CONTENT | SC_UPDATE_SELECTION)) != 0)

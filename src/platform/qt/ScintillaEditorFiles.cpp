@@ -55,6 +55,7 @@ void ScintillaEditor::TakeContentsFrom(EditorControl &other) {
 
 void ScintillaEditor::TellOtherText() {
     LinesHaveChanged_ = true;
+    emit OtherTextShown();
     TellChanges();
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/qt/ScintillaOffsets.h"
 
+#include "platform/qt/ScintillaEditor.h"
+
 #include <algorithm>
 
 namespace Quillbox {
@@ -9,35 +11,75 @@ namespace {
 
 using Sci = QsciScintillaBase;
 
-/// The editor has no characters that take two units of UTF-16.
-constexpr int IndexKind = Sci::SC_LINECHARACTERINDEX_UTF16;
+int CharactersIn(std::string_view utf8) {
+    return static_cast<int>(std::ranges::count_if(
+        utf8, [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0) != 0x80; }));
+}
 
 } // namespace
 
-int ScintillaOffsets::OffsetOf(BytePosition position) const {
-    PrepareIndex();
-    const LineIndex line = Text_.LineOf(position);
-    const std::intptr_t start = Text_.Send(Sci::SCI_INDEXPOSITIONFROMLINE, line.Value, IndexKind);
-    return static_cast<int>(start) + Text_.CharactersIn(Text_.LineStart(line), position);
+ScintillaOffsets::ScintillaOffsets(ScintillaEditor &editor)
+    : QObject(&editor)
+    , Text_(editor) {
+    connect(&editor, &Sci::SCN_MODIFIED, this,
+            [this](int position, int type, const char *bytes, int length) {
+                if (bytes != nullptr)
+                    Follow(position, type, {bytes, static_cast<std::size_t>(length)});
+                else
+                    Forget();
+            });
+    connect(&editor, &ScintillaEditor::OtherTextShown, this, &ScintillaOffsets::Forget);
 }
 
-BytePosition ScintillaOffsets::PositionOf(int offset) const {
+int ScintillaOffsets::OffsetOf(BytePosition position) {
+    KnownOffset_ += Distance(position);
+    KnownPosition_ = position;
+    return KnownOffset_;
+}
+
+BytePosition ScintillaOffsets::PositionOf(int offset) {
     if (offset <= 0)
         return 0;
-    PrepareIndex();
-    const auto line =
-        static_cast<int>(Text_.Send(Sci::SCI_LINEFROMINDEXPOSITION, offset, IndexKind));
-    const std::intptr_t start = Text_.Send(Sci::SCI_INDEXPOSITIONFROMLINE, line, IndexKind);
-    if (offset <= start)
-        return Text_.LineStart({line});
-    const BytePosition position =
-        Text_.Send(Sci::SCI_POSITIONRELATIVE, Text_.LineStart({line}), offset - start);
-    return position > 0 ? position : Text_.Length(); // 0 stands for beyond the end
+    if (offset >= Count())
+        return Text_.Length();
+    KnownPosition_ = Text_.Send(Sci::SCI_POSITIONRELATIVE, KnownPosition_, offset - KnownOffset_);
+    KnownOffset_ = offset;
+    return KnownPosition_;
 }
 
-void ScintillaOffsets::PrepareIndex() const {
-    if ((Text_.Send(Sci::SCI_GETLINECHARACTERINDEX) & IndexKind) == 0)
-        Text_.Send(Sci::SCI_ALLOCATELINECHARACTERINDEX, IndexKind);
+int ScintillaOffsets::Count() {
+    if (Count_ < 0)
+        Count_ = KnownOffset_ + Distance(Text_.Length());
+    return Count_;
+}
+
+/// An edit before the place that is known moves it.
+void ScintillaOffsets::Follow(BytePosition position, int type, std::string_view bytes) {
+    const auto length = static_cast<BytePosition>(bytes.size());
+    const bool inserted = (type & Sci::SC_MOD_INSERTTEXT) != 0;
+    if (Count_ >= 0)
+        Count_ += inserted ? CharactersIn(bytes) : -CharactersIn(bytes);
+    if (position >= KnownPosition_)
+        return;
+    if (inserted) {
+        KnownPosition_ += length;
+        KnownOffset_ += CharactersIn(bytes);
+        return;
+    }
+    const BytePosition gone = std::min(length, KnownPosition_ - position);
+    KnownPosition_ -= gone;
+    KnownOffset_ -= CharactersIn(bytes.substr(0, static_cast<std::size_t>(gone)));
+}
+
+void ScintillaOffsets::Forget() {
+    KnownPosition_ = 0;
+    KnownOffset_ = 0;
+    Count_ = -1;
+}
+
+int ScintillaOffsets::Distance(BytePosition position) const {
+    return position >= KnownPosition_ ? Text_.CharactersIn(KnownPosition_, position)
+                                      : -Text_.CharactersIn(position, KnownPosition_);
 }
 
 } // namespace Quillbox
