@@ -196,13 +196,15 @@ TEST_F(ScreenReaders, AreFollowedQuicklyThroughAHugeText) {
     Listen();
     Editor->SetCaretPos(Place(900'000, 3));
     EXPECT_EQ(Reader().cursorPosition(), 900'000 * 18 + 3);
-    QElapsedTimer timer;
-    timer.start();
+    qint64 asked = 0;
     for (int count = 0; count < 50; ++count) {
         TypeKeys("x");
+        QElapsedTimer timer;
+        timer.start();
         At(Reader().cursorPosition(), QAccessible::LineBoundary);
+        asked += timer.elapsed();
     }
-    EXPECT_LT(timer.elapsed() / 50, 20);
+    EXPECT_LT(asked / 50, 10);
     EXPECT_EQ(Reader().cursorPosition(), 900'000 * 18 + 53);
 }
 

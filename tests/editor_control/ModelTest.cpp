@@ -69,7 +69,10 @@ class EditorAgainstModel : public EditorKeys {
 
     void TypeLetter() {
         static const QString letters = QString::fromUtf8("aZ0 (ñ\t\"");
-        const QChar letter = letters[Pick(static_cast<int>(letters.size()))];
+        QChar letter = letters[Pick(static_cast<int>(letters.size()))];
+        // A tab over several lines shifts them.
+        if (letter == u'\t' && Model_->Selected().contains(u'\n'))
+            letter = u'a';
         // Letters typed one after the other may become one undo step; the caret's moving away ends
         // it, as does a command.
         ScintillaText(*Editor).Send(Sci::SCI_BEGINUNDOACTION);
@@ -159,9 +162,10 @@ class EditorAgainstModel : public EditorKeys {
     /// Text, and what can be undone and done again, are as they were before.
     void UndoAndRedoOne() {
         const QString text = Model_->Text();
+        if (!Model_->CanUndo())
+            return;
         UndoSome(1);
-        if (Model_->CanRedo())
-            RedoSome(1);
+        RedoSome(1);
         EXPECT_EQ(Editor->Text(), text);
     }
     void TakeSelectionOver() {
