@@ -54,18 +54,19 @@ TEST(Menus, HoldTheCommandsOnDocumentsAndProjects) {
 }
 
 TEST(Menus, HoldTheCommandsOfTheEditor) {
-    EXPECT_THAT(ItemsOf("mnuEdicion"),
-                UnorderedElementsAre(
-                    "mnuEdicion_Deshacer", "mnuEdicion_Rehacer", "mnuEdicion_Cortar",
-                    "mnuEdicion_Copiar", "mnuEdicion_Pegar", "mnuEdición_Eliminar",
-                    "mnuEdicion_SeleccionarTodo", "mnuEdicion_BuscarReemplazar",
-                    "mnuEdicion_BuscarSiguiente", "mnuEdicion_BuscarAnterior", "mnuEdicion_IrALinea", "mnuEdicion_IrACorchete",
-                    "mnuEdicion_SeleccionarSiguiente", "mnuEdicion_CompletarPalabra",
-                    "mnuEdicion_InsertarEliminarBookmark", "mnuEdicion_BookmarkSiguiente",
-                    "mnuEdicion_BookmarkAnterior", "mnuEdicion_PrimerBookmark",
-                    "mnuEdicion_UltimoBookmark", "mnuEdicion_EliminarTodosBookmarks",
-                    "mnuEdicion_AlternarComentarios", "mnuEdicion_DesplazarDerecha",
-                    "mnuEdicion_DesplazarIzquierda", "mnuEdicion_InsertarRGB"));
+    EXPECT_THAT(
+        ItemsOf("mnuEdicion"),
+        UnorderedElementsAre("mnuEdicion_Deshacer", "mnuEdicion_Rehacer", "mnuEdicion_Cortar",
+                             "mnuEdicion_Copiar", "mnuEdicion_Pegar", "mnuEdición_Eliminar",
+                             "mnuEdicion_SeleccionarTodo", "mnuEdicion_BuscarReemplazar",
+                             "mnuEdicion_BuscarSiguiente", "mnuEdicion_BuscarAnterior",
+                             "mnuEdicion_IrALinea", "mnuEdicion_IrACorchete",
+                             "mnuEdicion_SeleccionarSiguiente", "mnuEdicion_CompletarPalabra",
+                             "mnuEdicion_InsertarEliminarBookmark", "mnuEdicion_BookmarkSiguiente",
+                             "mnuEdicion_BookmarkAnterior", "mnuEdicion_PrimerBookmark",
+                             "mnuEdicion_UltimoBookmark", "mnuEdicion_EliminarTodosBookmarks",
+                             "mnuEdicion_AlternarComentarios", "mnuEdicion_DesplazarDerecha",
+                             "mnuEdicion_DesplazarIzquierda", "mnuEdicion_InsertarRGB"));
 }
 
 TEST(Menus, HoldTheCommandsOfTheCompiler) {

@@ -95,6 +95,29 @@ TEST_F(EditorEvents, OfALineBreakReplaceTheSelection) {
     EXPECT_EQ(Editor->Text(), "ab\ncd");
 }
 
+TEST_F(EditorEvents, OfMovingUpAndDownKeepToTheColumnWhereTheCaretWasPut) {
+    Load("abcdef\nabcdef\nabcdef");
+    Editor->SetCaretPos(At(0, 4));
+    Press(Qt::Key_Down);
+    EXPECT_EQ(Caret(), At(1, 4));
+    Editor->ReplaceSel("x");
+    Press(Qt::Key_Down);
+    EXPECT_EQ(Caret(), At(2, 5));
+    Editor->SetLinePosition({1});
+    Press(Qt::Key_Up);
+    EXPECT_EQ(Caret(), At(0, 0));
+}
+
+TEST_F(EditorEvents, OfALineBreakOverASelectionKeepTheIndentOfItsFirstLine) {
+    Load("\tab\n    cd");
+    Select(At(0, 2), At(1, 5));
+    Press(Qt::Key_Return, "\r");
+    EXPECT_EQ(Editor->Text(), "\ta\n\td");
+    Editor->Undo();
+    EXPECT_EQ(Editor->Text(), "\tab\n    cd");
+    EXPECT_FALSE(Editor->CanUndo());
+}
+
 TEST_F(EditorEvents, AskAboutControlCharactersFirst) {
     Load("x");
     std::vector<int> codes;

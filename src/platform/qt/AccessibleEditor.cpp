@@ -50,11 +50,11 @@ struct AccessibleEditor::Around final : QAccessibleTextInterface {
     QString attributes(int, int *, int *) const override { return {}; }
 };
 
-AccessibleEditor::AccessibleEditor(ScintillaEditor &editor)
+AccessibleEditor::AccessibleEditor(ScintillaEditor &editor, ScintillaOffsets &offsets)
     : QAccessibleWidget(&editor, QAccessible::EditableText)
     , Editor_(editor)
     , Text_(editor)
-    , Offsets_(Text_) {}
+    , Offsets_(offsets) {}
 
 void *AccessibleEditor::interface_cast(QAccessible::InterfaceType type) {
     if (type == QAccessible::TextInterface)
@@ -92,7 +92,7 @@ void AccessibleEditor::setSelection(int, int start, int end) { Select(start, end
 int AccessibleEditor::cursorPosition() const { return Offsets_.OffsetOf(Text_.Caret()); }
 
 void AccessibleEditor::setCursorPosition(int offset) {
-    Text_.Send(Sci::SCI_GOTOPOS, Offsets_.PositionOf(offset));
+    Text_.MoveCaret(Offsets_.PositionOf(offset));
 }
 
 QString AccessibleEditor::text(int start, int end) const {

@@ -15,7 +15,8 @@ class AccessibleEditor final : public QAccessibleWidget,
                                public QAccessibleTextInterface,
                                public QAccessibleEditableTextInterface {
   public:
-    explicit AccessibleEditor(ScintillaEditor &editor);
+    /// `offsets` is the editor's.
+    AccessibleEditor(ScintillaEditor &editor, ScintillaOffsets &offsets);
 
     void *interface_cast(QAccessible::InterfaceType type) override;
     QAccessible::State state() const override;
@@ -52,7 +53,7 @@ class AccessibleEditor final : public QAccessibleWidget,
 
     ScintillaEditor &Editor_;
     ScintillaText Text_;
-    ScintillaOffsets Offsets_;
+    ScintillaOffsets &Offsets_;
 };
 
 } // namespace Quillbox

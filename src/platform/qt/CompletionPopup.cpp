@@ -6,7 +6,6 @@
 #include <QLabel>
 #include <QListView>
 #include <QScreen>
-#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -41,10 +40,11 @@ class CompletionModel final : public QAbstractListModel {
 namespace {
 
 constexpr int MostRows = 10;
-constexpr int FewestCharacters = 40;
-constexpr int MostCharacters = 60;
+constexpr int FewestRows = 2;
+constexpr int WidthInCharacters = 52;
 constexpr int HelpLines = 2;
 constexpr int HelpMargin = 5;
+constexpr char16_t ZeroWidthSpace = 0x200B;
 
 /// The list has no keyboard focus, but its current word is what the keys act on.
 void ShowAsActive(QWidget &list) {
@@ -52,6 +52,11 @@ void ShowAsActive(QWidget &list) {
     for (const QPalette::ColorRole role : {QPalette::Highlight, QPalette::HighlightedText})
         palette.setColor(QPalette::Inactive, role, palette.color(QPalette::Active, role));
     list.setPalette(palette);
+}
+
+/// Lists of parameters are written without blanks; they may go on in a new line behind each comma.
+QString MayBreak(QString help) {
+    return help.replace(QChar(u','), QStringLiteral(",") + QChar(ZeroWidthSpace));
 }
 
 } // namespace
@@ -86,7 +91,9 @@ void CompletionPopup::Build() {
     Help_->setWordWrap(true);
     Help_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     Help_->setMargin(HelpMargin);
+    Help_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     Help_->setFixedHeight(Help_->fontMetrics().lineSpacing() * HelpLines + 2 * HelpMargin);
+    setFixedWidth(Help_->fontMetrics().averageCharWidth() * WidthInCharacters);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(1, 1, 1, 1);
     layout->setSpacing(0);
@@ -105,22 +112,24 @@ void CompletionPopup::SetWords(Completions words) {
 
 void CompletionPopup::SetWordFont(const QFont &font) { List_->setFont(font); }
 
-/// As high as its words need, and as wide as the widest one shown or a usual help line.
-void CompletionPopup::FitToWords() {
-    const int rows = std::min(Model_->rowCount(), MostRows);
-    List_->setFixedHeight(std::max(List_->sizeHintForRow(0), 1) * rows);
-    const int character = Help_->fontMetrics().averageCharWidth();
-    const int words = List_->sizeHintForColumn(0) + List_->verticalScrollBar()->sizeHint().width();
-    List_->setFixedWidth(
-        std::clamp(words, FewestCharacters * character, MostCharacters * character));
+/// As high as its words need.
+void CompletionPopup::FitToWords() { ShowRows(std::min(Model_->rowCount(), MostRows)); }
+
+void CompletionPopup::ShowRows(int rows) {
+    List_->setFixedHeight(RowHeight() * rows);
     adjustSize();
 }
 
+int CompletionPopup::RowHeight() const { return std::max(List_->sizeHintForRow(0), 1); }
+
 void CompletionPopup::ShowAt(const QRect &line) {
     const QRect room = parentWidget()->screen()->availableGeometry();
-    const bool below =
-        line.bottom() + height() <= room.bottom() || line.top() - height() < room.top();
-    const int top = below ? line.bottom() + 1 : line.top() - height();
+    const int above = line.top() - room.top();
+    const int below = room.bottom() - line.bottom();
+    if (const int missing = height() - std::max(above, below); missing > 0)
+        ShowRows(std::max(FewestRows, List_->height() / RowHeight() - missing / RowHeight() - 1));
+    const bool goesBelow = height() <= below || below >= above;
+    const int top = goesBelow ? line.bottom() + 1 : line.top() - height();
     move(std::max(std::min(line.left(), room.right() - width()), room.left()),
          std::max(std::min(top, room.bottom() - height()), room.top()));
     show();
@@ -131,9 +140,7 @@ const Completion &CompletionPopup::CurrentWord() const {
     return Model_->Words.at(static_cast<std::size_t>(List_->currentIndex().row()));
 }
 
-int CompletionPopup::PageSize() const {
-    return std::max(1, std::min(Model_->rowCount(), MostRows) - 1);
-}
+int CompletionPopup::PageSize() const { return std::max(1, List_->height() / RowHeight() - 1); }
 
 void CompletionPopup::Move(int steps) {
     const int row = std::clamp(List_->currentIndex().row() + steps, 0, Model_->rowCount() - 1);
@@ -144,7 +151,7 @@ void CompletionPopup::Move(int steps) {
 void CompletionPopup::ShowHelp(int row) {
     if (row < 0)
         return;
-    Help_->setText(Model_->Words.at(static_cast<std::size_t>(row)).Help);
+    Help_->setText(MayBreak(Model_->Words.at(static_cast<std::size_t>(row)).Help));
     if (!QAccessible::isActive())
         return;
     QAccessibleEvent event(List_, QAccessible::Focus);

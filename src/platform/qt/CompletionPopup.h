@@ -39,6 +39,8 @@ class CompletionPopup final : public QFrame {
   private:
     void Build();
     void FitToWords();
+    void ShowRows(int rows);
+    int RowHeight() const;
     void ShowHelp(int row);
 
     CompletionModel *Model_;

@@ -4,6 +4,8 @@
 #include "platform/qt/AccessibleEditor.h"
 #include "platform/qt/ScintillaEditor.h"
 
+#include <utility>
+
 namespace Quillbox {
 
 namespace {
@@ -15,11 +17,12 @@ constexpr int MostToldBytes = 10'000;
 
 QAccessibleInterface *MakeAccessibleEditor(const QString &, QObject *object) {
     auto *editor = qobject_cast<ScintillaEditor *>(object);
-    return editor == nullptr ? nullptr : new AccessibleEditor(*editor);
+    auto *offsets = editor == nullptr ? nullptr : editor->findChild<ScintillaOffsets *>();
+    return offsets == nullptr ? nullptr : new AccessibleEditor(*editor, *offsets);
 }
 
-/// The component makes an interface of its own, which counts all characters before the caret at each
-/// paint, with or without a tool that wants to know.
+/// The component makes an interface of its own, which counts all characters before the caret at
+/// each paint, with or without a tool that wants to know.
 void ReplaceComponentsInterface(ScintillaEditor &editor) {
     QAccessible::installFactory(MakeAccessibleEditor);
     QAccessibleInterface *made = QAccessible::queryAccessibleInterface(&editor);
@@ -29,18 +32,21 @@ void ReplaceComponentsInterface(ScintillaEditor &editor) {
 
 } // namespace
 
-ScintillaAccessibility::ScintillaAccessibility(ScintillaEditor &editor)
+ScintillaAccessibility::ScintillaAccessibility(ScintillaEditor &editor, ScintillaOffsets &offsets,
+                                               AssistiveTools tools)
     : QObject(&editor)
     , Editor_(editor)
-    , Text_(editor) {
+    , Text_(editor)
+    , Offsets_(offsets)
+    , Tools_(std::move(tools)) {
     ReplaceComponentsInterface(editor);
     connect(&editor, &Sci::SCN_MODIFIED, this,
             [this](int position, int type, const char *, int length) {
-                if (QAccessible::isActive())
+                if (Tools_.AreThere())
                     Modified(position, type, length);
             });
     connect(&editor, &Sci::SCN_UPDATEUI, this, [this] {
-        if (!QAccessible::isActive())
+        if (!Tools_.AreThere())
             return;
         TellInserted();
         TellCaret();
@@ -54,13 +60,13 @@ void ScintillaAccessibility::Modified(BytePosition position, int type, int lengt
     const bool isOver = (type & (Sci::SC_MOD_INSERTTEXT | Sci::SC_MOD_DELETETEXT)) != 0;
     if (isOver || length > MostToldBytes) {
         QAccessibleEvent event(&Editor_, QAccessible::VisibleDataChanged);
-        QAccessible::updateAccessibility(&event);
+        Tools_.Tell(&event);
     } else if ((type & Sci::SC_MOD_BEFOREINSERT) != 0) {
         Inserted_ = {position, position + length};
     } else if ((type & Sci::SC_MOD_BEFOREDELETE) != 0) {
-        QAccessibleTextRemoveEvent event(&Editor_, ScintillaOffsets(Text_).OffsetOf(position),
+        QAccessibleTextRemoveEvent event(&Editor_, Offsets_.OffsetOf(position),
                                          TextOf({position, position + length}));
-        QAccessible::updateAccessibility(&event);
+        Tools_.Tell(&event);
     }
 }
 
@@ -68,9 +74,8 @@ void ScintillaAccessibility::TellInserted() {
     const Stretch inserted = std::exchange(Inserted_, {});
     if (inserted.Start == inserted.End)
         return;
-    QAccessibleTextInsertEvent event(&Editor_, ScintillaOffsets(Text_).OffsetOf(inserted.Start),
-                                     TextOf(inserted));
-    QAccessible::updateAccessibility(&event);
+    QAccessibleTextInsertEvent event(&Editor_, Offsets_.OffsetOf(inserted.Start), TextOf(inserted));
+    Tools_.Tell(&event);
 }
 
 QString ScintillaAccessibility::TextOf(Stretch stretch) const {
@@ -79,20 +84,19 @@ QString ScintillaAccessibility::TextOf(Stretch stretch) const {
 }
 
 void ScintillaAccessibility::TellCaret() {
-    const ScintillaOffsets offsets(Text_);
-    const int caret = offsets.OffsetOf(Text_.Caret());
+    const int caret = Offsets_.OffsetOf(Text_.Caret());
     const bool hasSelection = Text_.SelectionStart() != Text_.SelectionEnd();
     if (hasSelection || HadSelection_) {
-        QAccessibleTextSelectionEvent event(&Editor_, offsets.OffsetOf(Text_.SelectionStart()),
-                                            offsets.OffsetOf(Text_.SelectionEnd()));
+        QAccessibleTextSelectionEvent event(&Editor_, Offsets_.OffsetOf(Text_.SelectionStart()),
+                                            Offsets_.OffsetOf(Text_.SelectionEnd()));
         event.setCursorPosition(caret);
-        QAccessible::updateAccessibility(&event);
+        Tools_.Tell(&event);
     }
     HadSelection_ = hasSelection;
     if (std::exchange(Caret_, caret) == caret)
         return;
     QAccessibleTextCursorEvent event(&Editor_, caret);
-    QAccessible::updateAccessibility(&event);
+    Tools_.Tell(&event);
 }
 
 } // namespace Quillbox

@@ -1,19 +1,29 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/qt/ScintillaText.h"
+#include "platform/qt/ScintillaOffsets.h"
 
-#include <QObject>
+#include <QAccessible>
+
+#include <functional>
 
 namespace Quillbox {
 
 class ScintillaEditor;
 
-/// Lets assistive tools read an editor's text, caret and selection, and tells them of changes.
-/// Nothing is told and nothing counted unless such a tool is there.
+/// The way to assistive tools.
+struct AssistiveTools {
+    std::function<bool()> AreThere = &QAccessible::isActive;
+    std::function<void(QAccessibleEvent *)> Tell = &QAccessible::updateAccessibility;
+};
+
+/// Tells assistive tools of changes of an editor's text, caret and selection. Nothing is told and
+/// nothing counted unless there are such tools.
 class ScintillaAccessibility final : public QObject {
   public:
-    explicit ScintillaAccessibility(ScintillaEditor &editor);
+    /// `offsets` is the editor's.
+    ScintillaAccessibility(ScintillaEditor &editor, ScintillaOffsets &offsets,
+                           AssistiveTools tools = {});
 
   private:
     struct Stretch {
@@ -27,8 +37,10 @@ class ScintillaAccessibility final : public QObject {
 
     ScintillaEditor &Editor_;
     ScintillaText Text_;
+    ScintillaOffsets &Offsets_;
+    AssistiveTools Tools_;
     Stretch Inserted_; ///< not told yet
-    int Caret_ = 0; ///< as it was told last, in characters
+    int Caret_ = 0;    ///< as it was told last, in characters
     bool HadSelection_ = false;
 };
 

@@ -2,6 +2,7 @@
 #include "platform/qt/ScintillaBrackets.h"
 
 #include "platform/Color.h"
+#include "platform/qt/ScintillaMarks.h"
 
 #include <algorithm>
 
@@ -18,8 +19,6 @@ constexpr std::string_view Closing = ")]}";
 /// Bytes that are coloured and read at a time: most brackets are near.
 constexpr BytePosition PieceSize = 2048;
 
-constexpr int MatchIndicator = 20;
-constexpr int MissingIndicator = 21;
 constexpr Color MatchColor = RgbColor(51, 132, 228);
 constexpr Color MissingColor = RgbColor(220, 50, 47);
 constexpr int FillAlpha = 70;
@@ -148,10 +147,10 @@ BracketPair FindBrackets(const ScintillaText &text, ScintillaColouring &colourin
 }
 
 void SetUpBracketMarks(const ScintillaText &text) {
-    SetUpBox(text, MatchIndicator, MatchColor);
-    SetUpBox(text, MissingIndicator, MissingColor);
-    text.Send(Sci::SCI_BRACEHIGHLIGHTINDICATOR, 1, MatchIndicator);
-    text.Send(Sci::SCI_BRACEBADLIGHTINDICATOR, 1, MissingIndicator);
+    SetUpBox(text, Indicator::BracketPair, MatchColor);
+    SetUpBox(text, Indicator::LoneBracket, MissingColor);
+    text.Send(Sci::SCI_BRACEHIGHLIGHTINDICATOR, 1, Indicator::BracketPair);
+    text.Send(Sci::SCI_BRACEBADLIGHTINDICATOR, 1, Indicator::LoneBracket);
 }
 
 void MarkBrackets(const ScintillaText &text, ScintillaColouring &colouring) {
@@ -167,7 +166,7 @@ void MarkBrackets(const ScintillaText &text, ScintillaColouring &colouring) {
 void GoToMatchingBracket(const ScintillaText &text, ScintillaColouring &colouring) {
     const BracketPair pair = FindBrackets(text, colouring);
     if (pair.Result == Match::Found)
-        text.Send(Sci::SCI_GOTOPOS, pair.Other < pair.Bracket ? pair.Other : pair.Other + 1);
+        text.MoveCaret(pair.Other < pair.Bracket ? pair.Other : pair.Other + 1);
 }
 
 } // namespace Quillbox

@@ -48,7 +48,6 @@ void SetUpSeveralCarets(const ScintillaText &text) {
     text.Send(Sci::SCI_SETADDITIONALSELECTIONTYPING, 1);
     text.Send(Sci::SCI_SETMULTIPASTE, Sci::SC_MULTIPASTE_EACH);
     text.Send(Sci::SCI_SETVIRTUALSPACEOPTIONS, Sci::SCVS_RECTANGULARSELECTION);
-    text.Send(Sci::SCI_SETRECTANGULARSELECTIONMODIFIER, Sci::SCMOD_ALT);
 }
 
 int CaretCount(const ScintillaText &text) {

@@ -190,7 +190,7 @@ void ScintillaCompletion::Insert(const QString &word) {
     const BytePosition end = Text_.Caret() + rest.first(replaced).toUtf8().size();
     const std::string_view old = Text_.Bytes(WordStart_, end);
     if (FromUtf8(old) == word) {
-        Text_.Send(Sci::SCI_GOTOPOS, end);
+        Text_.MoveCaret(end);
         return;
     }
     Text_.Send(Sci::SCI_SETSEL, WordStart_, end);

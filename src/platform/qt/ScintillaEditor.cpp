@@ -8,6 +8,7 @@
 #include "platform/qt/ScintillaCompletion.h"
 #include "platform/qt/ScintillaKeys.h"
 #include "platform/qt/ScintillaMarks.h"
+#include "platform/qt/ScintillaMouse.h"
 #include "platform/qt/ScintillaZoom.h"
 
 #include <QPointer>
@@ -46,8 +47,8 @@ ScintillaEditor::ScintillaEditor(const LanguageCatalogue &languages, FindState &
     , Styles_(Text_)
     , BulkSteps_(*this)
     , Colouring_(Text_) {
-    new ScintillaAccessibility(*this);
-    setAccessibleName(tr("Editor de código"));
+    new ScintillaAccessibility(*this, *new ScintillaOffsets(*this));
+    setAccessibleName(tr("Editor de código")); // tells assistive tools, which then look at it
     // Without this, each blink of the caret would paint the window behind the editor as well.
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     SetUpControl();
@@ -74,6 +75,7 @@ ScintillaEditor::~ScintillaEditor() = default;
 void ScintillaEditor::AddAssistants() {
     Completion_ = new ScintillaCompletion(*this);
     new ScintillaZoom(*this);
+    new ScintillaMouse(*this);
     connect(this, &QsciScintillaBase::SCN_ZOOM, this, [this] { Styles_.ZoomChanged(); });
     connect(this, &QsciScintillaBase::SCN_UPDATEUI, this, [this](int updated) {
         if ((updated & (SC_UPDATE_CONTENT | SC_UPDATE_SELECTION)) != 0)

@@ -87,6 +87,8 @@ class ScintillaEditor final : public QsciScintillaBase, public EditorControl {
     /// After each edit, undo and redo; not when the control gets another text.
     void TextChanged();
     void ModifiedChanged(bool modified);
+    /// The control got another text, from a file or another editor.
+    void OtherTextShown();
     /// Before the key does anything; repeated while it is held.
     void KeyDown();
     /// Once per key, when it is let go: 13 Enter, 8 Backspace, 46 Delete, letters and digits their

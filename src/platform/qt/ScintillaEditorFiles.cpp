@@ -57,6 +57,7 @@ void ScintillaEditor::TakeContentsFrom(EditorControl &other) {
 
 void ScintillaEditor::TellOtherText() {
     Styles_.TextLinesChanged();
+    emit OtherTextShown();
     TellChanges();
     TellTextReplaced(Find_, *this);
 }

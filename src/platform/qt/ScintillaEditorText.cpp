@@ -47,9 +47,7 @@ int ScintillaEditor::LineLength(LineIndex line) const {
     return Text_.CharactersIn(Text_.LineStart(line), Text_.LineEnd(line));
 }
 
-void ScintillaEditor::SetLinePosition(LineIndex line) {
-    Text_.Send(SCI_GOTOPOS, Text_.LineStart(line));
-}
+void ScintillaEditor::SetLinePosition(LineIndex line) { Text_.MoveCaret(Text_.LineStart(line)); }
 
 QString ScintillaEditor::CurrentWord() const {
     const LineIndex line = Text_.LineOf(Text_.Caret());
@@ -97,7 +95,7 @@ void ScintillaEditor::SetTopIndex(LineIndex line) {
 }
 
 void ScintillaEditor::SetCaretPos(TextPosition position) {
-    Text_.Send(SCI_GOTOPOS, Text_.PositionOf(position));
+    Text_.MoveCaret(Text_.PositionOf(position));
 }
 
 void ScintillaEditor::InsertText(const QString &text, TextPosition position) {
@@ -135,7 +133,7 @@ void ScintillaEditor::ReplaceSelection(std::string_view utf8) {
         Text_.Send(SCI_CLEAR);
     const BytePosition place = Text_.Caret();
     Text_.Replace(place, place, utf8);
-    Text_.Send(SCI_GOTOPOS, place + static_cast<BytePosition>(utf8.size()));
+    Text_.MoveCaret(place + static_cast<BytePosition>(utf8.size()));
 }
 
 } // namespace Quillbox

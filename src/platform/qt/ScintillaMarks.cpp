@@ -19,7 +19,7 @@ std::intptr_t FindBookmark(const ScintillaText &text, MarkDirection direction, i
 bool GoTo(const ScintillaText &text, std::intptr_t line) {
     if (line < 0)
         return false;
-    text.Send(Sci::SCI_GOTOLINE, line);
+    text.MoveCaret(text.LineStart({static_cast<int>(line)}));
     return true;
 }
 

@@ -13,7 +13,9 @@ inline constexpr int Highlight = 2;
 
 /// Marks of stretches of text by their numbers; below 8 they are the component's own.
 namespace Indicator {
-inline constexpr int Match = 20;
+inline constexpr int Match = 20; ///< of what is looked for
+inline constexpr int BracketPair = 21;
+inline constexpr int LoneBracket = 22;
 } // namespace Indicator
 
 /// The component's margins from left to right.

@@ -3,25 +3,40 @@
 
 #include "platform/qt/ScintillaText.h"
 
+#include <QObject>
+
 namespace Quillbox {
 
-/// The way from byte positions to places counted in characters from the start of the text, as
-/// assistive tools count, line ends included, and back. Keeps an index by lines, which the editing
-/// component follows up, so that a long text is counted only once.
-class ScintillaOffsets {
-  public:
-    explicit ScintillaOffsets(const ScintillaText &text)
-        : Text_(text) {}
+class ScintillaEditor;
 
-    int OffsetOf(BytePosition position) const;
+/// The way from byte positions to places counted in characters from the start of the text, as
+/// assistive tools count, line ends included, and back. Remembers the last place and counts from
+/// there, so that a long text is counted once and not at each key. Costs nothing until it is asked.
+class ScintillaOffsets final : public QObject {
+    Q_OBJECT
+  public:
+    explicit ScintillaOffsets(ScintillaEditor &editor);
+
+    int OffsetOf(BytePosition position);
     /// An offset outside the text means its nearest end.
-    BytePosition PositionOf(int offset) const;
-    int Count() const { return OffsetOf(Text_.Length()); }
+    BytePosition PositionOf(int offset);
+    /// Characters in the whole text.
+    int Count();
 
   private:
-    void PrepareIndex() const;
+    void Follow(BytePosition position, int type, BytePosition length);
+    void CountInserted();
+    void Forget();
+    int Distance(BytePosition position) const;
 
-    const ScintillaText &Text_;
+    ScintillaText Text_;
+    BytePosition KnownPosition_ = 0;
+    int KnownOffset_ = 0;
+    int Count_ = -1; ///< -1 while it is not known
+    struct {
+        BytePosition Start = 0;
+        BytePosition End = 0;
+    } Inserted_; ///< in the text, but not yet in Count_
 };
 
 } // namespace Quillbox

@@ -41,7 +41,7 @@ constexpr Color SelectionBlue = RgbColor(51, 132, 228);
 constexpr Color MarginDigits = RgbColor(64, 64, 64);
 constexpr Color BookmarkBlue = RgbColor(40, 96, 176);
 constexpr int CaretLineAlpha = 14;
-constexpr int HighlightAlpha = 70;
+constexpr int HighlightAlpha = 100;
 constexpr int BookmarkMarginWidth = 14;
 constexpr int FewestDigits = 4;
 

@@ -75,6 +75,11 @@ BytePosition ScintillaText::NextLineStart(LineIndex line) const {
 
 BytePosition ScintillaText::Caret() const { return Send(Sci::SCI_GETCURRENTPOS); }
 
+void ScintillaText::MoveCaret(BytePosition position) const {
+    Send(Sci::SCI_GOTOPOS, position);
+    Send(Sci::SCI_CHOOSECARETX);
+}
+
 BytePosition ScintillaText::SelectionStart() const { return Send(Sci::SCI_GETSELECTIONSTART); }
 
 BytePosition ScintillaText::SelectionEnd() const { return Send(Sci::SCI_GETSELECTIONEND); }

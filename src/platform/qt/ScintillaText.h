@@ -47,6 +47,8 @@ class ScintillaText {
     /// Behind the line end.
     BytePosition NextLineStart(LineIndex line) const;
     BytePosition Caret() const;
+    /// With nothing selected, in view; moving up and down keeps to its column from now on.
+    void MoveCaret(BytePosition position) const;
     BytePosition SelectionStart() const;
     BytePosition SelectionEnd() const;
 
