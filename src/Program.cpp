@@ -4,6 +4,7 @@
 #include "editor/EditCommands.h"
 #include "platform/EditorControl.h"
 #include "project/frmNewProject.h"
+#include "settings_dialog/frmSettings.h"
 
 namespace Quillbox {
 
@@ -68,6 +69,7 @@ void Program::FillCommands() {
     add("mnuPrograma_Ejecutar", [this] { Build_.mnuPrograma_Ejecutar_Click(); });
     add("mnuPrograma_CrearEXE", [this] { Build_.mnuPrograma_CrearEXE_Click(); });
     add("mnuPrograma_ModoDebug", [this] { mnuPrograma_ModoDebug_Click(DebugMode_, Main_); });
+    add("mnuHerramientas_Configuracion", [this] { ShowSettings(); });
     add("mnuVentana_Anterior", [this] { Navigation_.ActivatePrevious(); });
     add("mnuVentana_Siguiente", [this] { Navigation_.ActivateNext(); });
     add("mnuVentana_Ayuda", [this] { Navigation_.mnuVentana_Ayuda_Click(); });
@@ -131,6 +133,18 @@ frmDoc *Program::MakeDocumentWindow(DocumentArea &area) {
 EditorControl &Program::CurrentEditor() { return Registry_.Current().Window->Editor(); }
 
 void Program::ShowNewProject() { frmNewProject(NewProject_, Boundary_, &Main_).exec(); }
+
+/// While its changes are applied it is hidden and a person may ask for it once more.
+void Program::ShowSettings() {
+    if (SettingsWindow_)
+        return;
+    const SymbolParts symbols{Scanner_, {Words_.LanguageDefinition, Languages_}, Main_.Lists()};
+    frmSettings settings({Outside_.AppDir, Settings_, Registry_, symbols, Outside_.Dialogs,
+                          Outside_.Launcher, Outside_.Events},
+                         Boundary_, &Main_);
+    SettingsWindow_ = &settings;
+    settings.ShowUntilClosed();
+}
 
 /// A window that is open already comes forward as it is; a closed one may still wait for its
 /// deletion.

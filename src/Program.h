@@ -78,6 +78,7 @@ class Program {
     frmDoc *MakeDocumentWindow(DocumentArea &area);
     EditorControl &CurrentEditor();
     void ShowNewProject();
+    void ShowSettings();
     template <typename Window, typename Rules>
     void ShowModeless(QPointer<Window> &window, Rules &rules);
 
@@ -111,6 +112,7 @@ class Program {
     ProjectCommands ProjectCommands_;
     QPointer<frmProjectInfo> ProjectInfoWindow_;
     QPointer<frmToDoList> ToDoListWindow_;
+    QPointer<QDialog> SettingsWindow_; ///< while it is open
     ToolbarDispatch Toolbar_;
     ShutDown ShutDown_;
 };

@@ -135,6 +135,7 @@ class EditorControl {
     /// Takes over text, modified flag, undo history, marks, caret and scroll position of `other`
     /// without copying the text. Until `other` is closed or takes over another text, both show it.
     virtual void TakeContentsFrom(EditorControl &other) = 0;
+    /// Gives the editor the keyboard, of which it is told before the call returns.
     virtual void SetFocus() = 0;
     /// Asks for a printer and prints with file name and page number; errors are ignored.
     virtual void Print(const QString &fileName) = 0;

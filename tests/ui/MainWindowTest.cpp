@@ -67,9 +67,9 @@ TEST_F(MainWindowTest, HasAToolButtonWithPictureForEveryTooltip) {
 TEST_F(MainWindowTest, KeepsCommandsThatDoNotExistYetDisabled) {
     Write(QStringLiteral("a.prg"), "Print 1\r\n");
     Open(QStringLiteral("a.prg"));
-    for (const char *name : {"mnuHerramientas_Configuracion", "mnuHerramientas_ExploradorMedia"})
+    for (const char *name : {"mnuHerramientas_ExploradorMedia"})
         EXPECT_FALSE(Find<QAction>(QLatin1String(name))->isEnabled()) << name;
-    EXPECT_FALSE(ToolButtonWith(QStringLiteral("Configuración"))->isEnabled());
+    EXPECT_FALSE(ToolButtonWith(QStringLiteral("Explorador Media"))->isEnabled());
     EXPECT_TRUE(Find<QAction>(QStringLiteral("mnuEdicion_Deshacer"))->isEnabled());
     EXPECT_TRUE(ToolButtonWith(QStringLiteral("Ejecutar"))->isEnabled());
 }

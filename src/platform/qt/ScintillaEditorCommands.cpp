@@ -37,7 +37,13 @@ void ScintillaEditor::Redo() {
     Perform([this] { Text_.Send(SCI_REDO); });
 }
 
-void ScintillaEditor::SetFocus() { setFocus(Qt::OtherFocusReason); }
+/// A window that the system activates only later gives the keyboard then. Whoever asked counts on
+/// the editor having been told.
+void ScintillaEditor::SetFocus() {
+    setFocus(Qt::OtherFocusReason);
+    if (!hasFocus())
+        emit FocusReceived();
+}
 
 void ScintillaEditor::ExecuteCommand(EditorCommand command) {
     switch (command) {
