@@ -13,8 +13,8 @@ int main(int argc, char **argv) {
         QApplication::installTranslator(&translator);
 
     const QString text = "El programa no tiene errores de estructura.\n\n"
-                         "Para ejecutarlo hace falta el compilador. Su ruta se escribe en "
-                         "Quillbox.ini, junto al programa: claves FenixCPath y MainPath.";
+                         "Para ejecutarlo hace falta el compilador. Su ruta se elige en "
+                         "Herramientas > Configuración.";
     QMessageBox notice(QMessageBox::Information, "Quillbox", text);
     notice.setObjectName("RunNotice");
     notice.exec();

@@ -7,6 +7,7 @@
 #include "platform/EditorControl.h"
 #include "platform/HelpViewer.h"
 #include "project/frmNewProject.h"
+#include "settings_dialog/frmSettings.h"
 #include "tools/frmAcercaDe.h"
 
 namespace Quillbox {
@@ -78,6 +79,7 @@ void Program::FillCommands() {
     add("mnuPrograma_CrearEXE", [this] { Build_.mnuPrograma_CrearEXE_Click(); });
     add("mnuPrograma_ModoDebug", [this] { mnuPrograma_ModoDebug_Click(DebugMode_, Main_); });
     add("mnuHerramientas_ExploradorMedia", [this] { ShowMediaBrowser(); });
+    add("mnuHerramientas_Configuracion", [this] { ShowSettings(); });
     add("mnuVentana_Anterior", [this] { Navigation_.ActivatePrevious(); });
     add("mnuVentana_Siguiente", [this] { Navigation_.ActivateNext(); });
     add("mnuVentana_Ayuda", [this] { Navigation_.mnuVentana_Ayuda_Click(); });
@@ -178,6 +180,18 @@ void Program::ShowMediaBrowser() {
                                  Outside_.Launcher, Outside_.Dialogs, Outside_.Events},
                                 Outside_.Disks, Boundary_, &Main_);
     MediaBrowserWindow_->ComeForward();
+}
+
+/// While its changes are applied it is hidden and a person may ask for it once more.
+void Program::ShowSettings() {
+    if (SettingsWindow_)
+        return;
+    const SymbolParts symbols{Scanner_, {Words_.LanguageDefinition, Languages_}, Main_.Lists()};
+    frmSettings settings({Outside_.AppDir, Settings_, Registry_, symbols, Outside_.Dialogs,
+                          Outside_.Launcher, Outside_.Events},
+                         Boundary_, &Main_);
+    SettingsWindow_ = &settings;
+    settings.ShowUntilClosed();
 }
 
 /// A window that is open already comes forward as it is; a closed one may still wait for its

@@ -87,6 +87,7 @@ class Program {
     EditorControl &CurrentEditor();
     void ShowNewProject();
     void ShowMediaBrowser();
+    void ShowSettings();
     template <typename Window, typename Rules>
     void ShowModeless(QPointer<Window> &window, Rules &rules);
 
@@ -125,6 +126,7 @@ class Program {
     QPointer<frmProjectInfo> ProjectInfoWindow_;
     QPointer<frmToDoList> ToDoListWindow_;
     QPointer<frmMediaBrowser> MediaBrowserWindow_;
+    QPointer<QDialog> SettingsWindow_; ///< while it is open
     ToolbarDispatch Toolbar_;
     ShutDown ShutDown_;
 };

@@ -22,6 +22,7 @@ struct Message {
 
 /// What a file chooser insists on.
 enum class FileChooserFlags {
+    None = 0,            ///< takes any name, of an existing file or not
     OverwritePrompt = 2, ///< asks before an existing file is chosen for saving
     FileMustExist = 4096,
 };
@@ -29,9 +30,11 @@ enum class FileChooserFlags {
 struct FileChooser {
     FileChooserFlags Flags;
     QString Filter;        ///< caption, "|", pattern: "Programas de Fenix (*.prg)|*.prg"
-    QString FileName = {}; ///< proposed name, empty for none
+    QString FileName = {}; ///< proposed name, empty for none; of a full one its last part
     QString Title = {};    ///< empty for the chooser's own
-    QString Folder = {};   ///< where it starts, empty for where the last choice was
+    /// Where it starts, empty for where the last choice was. For a file's full name its folder; a
+    /// folder that is not there counts as empty.
+    QString Folder = {};
 };
 
 struct FontChoice {

@@ -142,6 +142,7 @@ class EditorControl {
     /// `other` without copying the text. Until `other` is closed or takes over another text, both
     /// show it.
     virtual void TakeContentsFrom(EditorControl &other) = 0;
+    /// Gives the editor the keyboard, of which it is told before the call returns.
     virtual void SetFocus() = 0;
     /// Shows the pages, each with file name and page number; from there the person prints them.
     /// Errors are ignored.

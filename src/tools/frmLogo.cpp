@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/frmLogo.h"
 
+#include "tools/CreditLine.h"
+
 #include <QIcon>
 #include <QLabel>
 #include <QScreen>
 
 namespace Quillbox {
 namespace {
-
-const QString CreditLine = QStringLiteral("Quillbox v1.0 · El equipo de Quillbox · 2026");
 
 constexpr QSize PictureSize(420, 260);
 constexpr QRect TitleArea(24, 184, 372, 44);

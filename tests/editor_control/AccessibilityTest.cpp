@@ -4,6 +4,8 @@
 #include "platform/qt/AccessibleEditor.h"
 #include "platform/qt/ScintillaAccessible.h"
 
+#include <gmock/gmock.h>
+
 namespace Quillbox::Test {
 
 namespace {

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/qt/QtDialogs.h"
 
+#include "platform/Paths.h"
 #include "platform/qt/AnsiLineEdit.h"
+#include "platform/qt/InstalledFamily.h"
 
 #include <QApplication>
 #include <QColorDialog>
@@ -58,9 +60,15 @@ MessageAnswer AnswerOf(int button) {
     }
 }
 
-/// "Programas de Fenix (*.prg)|*.prg" names a caption and a pattern; Qt reads the pattern from the
-/// brackets of the caption.
-QString CaptionOf(const QString &filter) { return filter.section(u'|', 0, 0); }
+/// "Programas de Fenix (*.prg)|*.prg" names a caption and a pattern; Qt reads the pattern from
+/// brackets in the caption. Where the caption has none they are added and not shown.
+void SetFilter(QFileDialog &dialog, const QString &filter) {
+    const QString caption = filter.section(u'|', 0, 0);
+    const bool hasBrackets = caption.contains(u'(');
+    dialog.setOption(QFileDialog::HideNameFilterDetails, !hasBrackets);
+    dialog.setNameFilter(
+        hasBrackets ? caption : QStringLiteral("%1 (%2)").arg(caption, filter.section(u'|', 1, 1)));
+}
 
 /// The ending that a pattern such as "*.prg" asks for.
 QString SuffixOf(const QString &filter) { return QFileInfo(filter.section(u'|', 1, 1)).suffix(); }
@@ -75,17 +83,40 @@ class SpanishFileTypes final : public QFileIconProvider {
     }
 };
 
-/// Runs the chooser in `folder` and remembers where the person went.
-std::optional<QString> Choose(QFileDialog &dialog, QString &folder) {
+/// Where the chooser starts; empty where that is left to it.
+QString StartFolder(const FileChooser &chooser, const QString &lastFolder) {
+    if (chooser.Folder.isEmpty())
+        return lastFolder;
+    const QFileInfo wanted(SystemPath(chooser.Folder));
+    const QString folder = wanted.isDir() ? wanted.absoluteFilePath() : wanted.absolutePath();
+    return QFileInfo(folder).isDir() ? folder : lastFolder;
+}
+
+/// The last part of a full name, as the system spells it; a bare name is proposed as it is.
+QString ProposedName(const QString &name) {
+    if (!name.contains(u'/') && !name.contains(u'\\'))
+        return name;
+    const QFileInfo file(SystemPath(name));
+    return file.isDir() ? QString() : file.fileName();
+}
+
+/// Runs the chooser and remembers where the person went.
+std::optional<QString> Choose(QFileDialog &dialog, const FileChooser &chooser,
+                              QString &lastFolder) {
     dialog.setOption(QFileDialog::DontUseNativeDialog);
+    if (!chooser.Title.isEmpty())
+        dialog.setWindowTitle(chooser.Title);
+    SetFilter(dialog, chooser.Filter);
     SpanishFileTypes fileTypes;
     dialog.setIconProvider(&fileTypes);
+    const QString folder = StartFolder(chooser, lastFolder);
     if (!folder.isEmpty())
         dialog.setDirectory(folder);
+    dialog.selectFile(ProposedName(chooser.FileName));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
     const QString chosen = dialog.selectedFiles().constFirst();
-    folder = QFileInfo(chosen).absolutePath(); // the dialog's own, unless a whole path was typed
+    lastFolder = QFileInfo(chosen).absolutePath(); // not the dialog's: a path may have been typed
     return QDir::toNativeSeparators(chosen);
 }
 
@@ -102,21 +133,18 @@ MessageAnswer QtDialogs::ShowMessage(const Message &message) {
 
 std::optional<QString> QtDialogs::ShowOpen(const FileChooser &chooser) {
     QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Abrir"));
-    dialog.setNameFilter(CaptionOf(chooser.Filter));
     dialog.setFileMode(chooser.Flags == FileChooserFlags::FileMustExist ? QFileDialog::ExistingFile
                                                                         : QFileDialog::AnyFile);
-    return Choose(dialog, Folder_);
+    return Choose(dialog, chooser, Folder_);
 }
 
 std::optional<QString> QtDialogs::ShowSave(const FileChooser &chooser) {
     QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Guardar como"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setNameFilter(CaptionOf(chooser.Filter));
     dialog.setDefaultSuffix(SuffixOf(chooser.Filter));
     dialog.setOption(QFileDialog::DontConfirmOverwrite,
                      chooser.Flags != FileChooserFlags::OverwritePrompt);
-    dialog.selectFile(chooser.FileName);
-    return Choose(dialog, Folder_);
+    return Choose(dialog, chooser, Folder_);
 }
 
 std::optional<QString> QtDialogs::ShowInput(const InputBox &box) {
@@ -143,7 +171,7 @@ std::optional<Color> QtDialogs::ShowColor(Color preset) {
 }
 
 std::optional<FontChoice> QtDialogs::ShowFont(const FontChoice &preset) {
-    QFont font(preset.Name);
+    QFont font(InstalledFamily(preset.Name));
     if (preset.Size > 0)
         font.setPointSizeF(preset.Size);
     QFontDialog dialog(font, QApplication::activeWindow());

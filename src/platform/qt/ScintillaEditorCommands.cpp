@@ -62,7 +62,14 @@ void ScintillaEditor::Redo() {
     Perform([this] { Text_.Send(SCI_REDO); });
 }
 
-void ScintillaEditor::SetFocus() { setFocus(Qt::OtherFocusReason); }
+/// A window that the system activates only later gives the keyboard then. Whoever asked counts on
+/// the editor having been told.
+void ScintillaEditor::SetFocus() {
+    const bool hadFocus = hasFocus();
+    setFocus(Qt::OtherFocusReason);
+    if (hadFocus || !hasFocus())
+        emit FocusReceived();
+}
 
 void ScintillaEditor::ExecuteCommand(EditorCommand command) {
     switch (command) {

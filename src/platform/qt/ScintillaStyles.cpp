@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/qt/ScintillaStyles.h"
 
+#include "platform/qt/InstalledFamily.h"
 #include "platform/qt/ScintillaMarks.h"
-
-#include <QFontDatabase>
-#include <QFontInfo>
 
 #include <algorithm>
 
@@ -56,18 +54,6 @@ constexpr Color Blend(Color one, Color other, int percent) {
     };
     return RgbColor(channel(RedOf(one), RedOf(other)), channel(GreenOf(one), GreenOf(other)),
                     channel(BlueOf(one), BlueOf(other)));
-}
-
-/// A family that exists. Source text needs a fixed pitch: a family that is not installed, as
-/// "Courier" on many systems, must not end in a proportional one.
-QString InstalledFamily(const QString &name) {
-    if (QFontDatabase::hasFamily(name))
-        return name;
-    QFont font(name);
-    font.setStyleHint(QFont::Monospace);
-    const QFontInfo found(font);
-    return found.fixedPitch() ? found.family()
-                              : QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
 }
 
 int DigitsOf(int number) {

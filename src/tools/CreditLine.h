@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+namespace Quillbox {
+
+/// Program, version, makers and year, as people read them.
+inline const QString CreditLine = QStringLiteral("Quillbox v1.0 · El equipo de Quillbox · 2026");
+
+} // namespace Quillbox
