@@ -4,6 +4,8 @@
 
 #include "platform/qt/ScintillaReplace.h"
 
+#include <cstdio>
+
 namespace Quillbox::Bench {
 
 namespace {
@@ -84,6 +86,22 @@ void MeasureSearching() {
 }
 
 } // namespace
+
+void MeasureReplacingIn(const QString &path) {
+    Workbench bench;
+    std::unique_ptr<ScintillaEditor> editor;
+    const double replacing = ShortestTime(
+        3,
+        [&] {
+            ReplaceAll(*editor, TaskFor(QStringLiteral("uno")), QStringLiteral("segundo"));
+            editor->viewport()->repaint();
+        },
+        [&] {
+            editor = bench.NewEditor();
+            editor->OpenFile(path);
+        });
+    std::printf("%.0f\n", replacing * 1000);
+}
 
 void MeasureFinding() {
     MeasureSearching();

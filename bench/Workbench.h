@@ -56,6 +56,8 @@ void MeasureColouring();
 void MeasureLongLine();
 void MeasureDocuments();
 void MeasureFinding();
+/// Prints the milliseconds that it takes to replace "uno", which stands there 1,000,000 times.
+void MeasureReplacingIn(const QString &path);
 void MeasureSymbols();
 void MeasureMediaBrowser();
 /// Only the first start in a process is that of a program that a person starts.

@@ -4,8 +4,7 @@
 #include <QApplication>
 
 /// Without arguments measures everything; otherwise what the arguments name: loading, memory,
-/// colouring, line, documents, symbols, media, finding, and alone
-/// startup.
+/// colouring, line, documents, symbols, media, finding. Alone: startup, or replacing and a file.
 int main(int argc, char *argv[]) {
     using namespace Quillbox::Bench;
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
@@ -18,6 +17,10 @@ int main(int argc, char *argv[]) {
     }
     if (wanted.contains(QStringLiteral("startup"))) {
         MeasureStartUp();
+        return 0;
+    }
+    if (wanted.size() == 2 && wanted.first() == QStringLiteral("replacing")) {
+        MeasureReplacingIn(wanted.last());
         return 0;
     }
     const auto isWanted = [&wanted](const char *name) {
