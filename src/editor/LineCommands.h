@@ -12,7 +12,7 @@ struct LanguageDefinition;
 
 /// Removes the language's comment marker from the first column of each line that has it there, and
 /// puts it in front of the others. An indented comment counts as a line without a marker. The caret
-/// ends at the start of the last line.
+/// ends in the last line, at its start or behind the marker that it got.
 void ToggleComments(EditorControl &editor, const LanguageDefinition &language);
 
 /// One tab character in front of each line, whatever the tab size.

@@ -24,7 +24,7 @@ void HelpCommands::mnuAyuda_Contextual_Click() {
     // The editor is asked as for a look-up, and its answers stay unused: the command only switches.
     const EditorControl &editor = Registry_.Current().Window->Editor();
     static_cast<void>(editor.GetSel());
-    static_cast<void>(editor.Text());
+    static_cast<void>(editor.CurrentWord());
     Navigation_.mnuVentana_Ayuda_Click();
 }
 

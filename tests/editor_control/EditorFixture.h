@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "fakes/PaintCounter.h"
 #include "platform/Dialogs.h"
 #include "platform/qt/FindDialog.h"
 #include "platform/qt/LanguageCatalogue.h"
@@ -94,20 +95,6 @@ class EditorTest : public testing::Test {
     FindState Find;
     RecordingDialogs Messages;
     std::unique_ptr<ScintillaEditor> Editor;
-};
-
-/// Counts how often a widget is painted.
-class PaintCounter final : public QObject {
-  public:
-    explicit PaintCounter(QWidget &widget) { widget.installEventFilter(this); }
-
-    int Count = 0;
-
-  private:
-    bool eventFilter(QObject *, QEvent *event) override {
-        Count += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
 };
 
 constexpr TextPosition At(int line, int column) { return {{line}, {column}}; }

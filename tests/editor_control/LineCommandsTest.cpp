@@ -58,6 +58,16 @@ TEST_F(LineCommandsInText, TogglingLeavesTheLineAloneWhereTheSelectionEndsAtItsS
     EXPECT_EQ(Editor->Text(), "0\n1\n2\n//3\n//4\n//5\n6");
 }
 
+TEST_F(LineCommandsInText, TogglingLeavesTheCaretInTheLastLine) {
+    Load("//a\nb\n//c");
+    Select(At(0, 0), At(1, 1));
+    ToggleComments(*Editor, TestLanguage());
+    EXPECT_EQ(Editor->GetSel(), (TextRange{At(1, 2), At(1, 2)}));
+    Editor->SetCaretPos(At(2, 3));
+    ToggleComments(*Editor, TestLanguage());
+    EXPECT_EQ(Editor->GetSel(), (TextRange{At(2, 0), At(2, 0)}));
+}
+
 TEST_F(LineCommandsInText, IndentingKeepsTheSelection) {
     Load("ab\ncd\nef");
     Select(At(0, 1), At(1, 1));

@@ -33,7 +33,7 @@ class FakeEditor : public EditorControl {
     TokenClass WordClass = TokenClass::Text;
     bool Possible = true; ///< the answer of every Can...
     mutable int SelectionQueries = 0;
-    mutable int TextQueries = 0;
+    mutable int WordQueries = 0;
 
     void SetLanguage(const QString &name) override { Log_.Add("editor.SetLanguage", name); }
     void SetColorSyntax(bool on) override { Log_.Add("editor.SetColorSyntax", on); }
@@ -61,7 +61,10 @@ class FakeEditor : public EditorControl {
     void SetLinePosition(LineIndex line) override {
         Log_.Add("editor.SetLinePosition", line.Value);
     }
-    QString CurrentWord() const override { return Word; }
+    QString CurrentWord() const override {
+        ++WordQueries;
+        return Word;
+    }
     TokenClass CurrentTokenClass() const override { return WordClass; }
 
     TextRange GetSel() const override {
@@ -97,10 +100,7 @@ class FakeEditor : public EditorControl {
         return true;
     }
     bool IsModified() const override { return Modified; }
-    QString Text() const override {
-        ++TextQueries;
-        return Content;
-    }
+    QString Text() const override { return Content; }
     void TakeContentsFrom(EditorControl &other) override {
         Log_.Add("editor.TakeContentsFrom");
         Content = other.Text();

@@ -13,8 +13,8 @@
 
 namespace Quillbox {
 
-/// The rules around the documents, with fakes on every side. Clicks on tabs reach the navigation, as
-/// in the real program.
+/// The rules around the documents, with fakes on every side. Clicks on tabs reach the navigation,
+/// as in the real program.
 class FakeProgram : public testing::Test {
   protected:
     FakeProgram() {

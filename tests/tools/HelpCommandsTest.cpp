@@ -46,14 +46,14 @@ TEST_F(HelpCommandsTest, ContextualHelpSwitchesToTheHelpPageAsItStands) {
 TEST_F(HelpCommandsTest, ContextualHelpAsksOnlyTheCurrentEditorWhereItIsAndWhatItHolds) {
     Open({"/j/a.prg", "/j/b.prg"});
     for (int position : {1, 2})
-        EditorOf(position).SelectionQueries = EditorOf(position).TextQueries = 0;
+        EditorOf(position).SelectionQueries = EditorOf(position).WordQueries = 0;
 
     Rules.mnuAyuda_Contextual_Click();
 
     EXPECT_EQ(EditorOf(2).SelectionQueries, 1);
-    EXPECT_EQ(EditorOf(2).TextQueries, 1);
+    EXPECT_EQ(EditorOf(2).WordQueries, 1);
     EXPECT_EQ(EditorOf(1).SelectionQueries, 0);
-    EXPECT_EQ(EditorOf(1).TextQueries, 0);
+    EXPECT_EQ(EditorOf(1).WordQueries, 0);
 }
 
 TEST_F(HelpCommandsTest, TheHomeButtonShowsTheChosenPageAndThenComesForward) {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "fakes/PaintCounter.h"
 #include "ui/UiProgram.h"
 
 #include <QLabel>
@@ -6,20 +7,6 @@
 
 namespace Quillbox {
 namespace {
-
-/// Counts the paints of a widget, not those of its children.
-class PaintCounter final : public QObject {
-  public:
-    explicit PaintCounter(QWidget &widget) { widget.installEventFilter(this); }
-
-    int Count = 0;
-
-  private:
-    bool eventFilter(QObject *, QEvent *event) override {
-        Count += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-};
 
 class DocumentWindowTest : public UiProgram {
   protected:

@@ -98,7 +98,7 @@ void AccessibleEditor::setCursorPosition(int offset) {
 QString AccessibleEditor::text(int start, int end) const {
     const std::string_view bytes =
         Text_.Bytes(Offsets_.PositionOf(start), Offsets_.PositionOf(end));
-    return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    return FromUtf8(bytes);
 }
 
 QString AccessibleEditor::textBeforeOffset(int offset, QAccessible::TextBoundaryType boundary,
@@ -122,13 +122,9 @@ QString AccessibleEditor::textAtOffset(int offset, QAccessible::TextBoundaryType
 int AccessibleEditor::characterCount() const { return Offsets_.Count(); }
 
 QRect AccessibleEditor::characterRect(int offset) const {
-    const auto pointOf = [this](BytePosition position) {
-        return QPoint(static_cast<int>(Text_.Send(Sci::SCI_POINTXFROMPOSITION, 0, position)),
-                      static_cast<int>(Text_.Send(Sci::SCI_POINTYFROMPOSITION, 0, position)));
-    };
     const BytePosition position = Offsets_.PositionOf(offset);
-    const QPoint left = pointOf(position);
-    const QPoint right = pointOf(Text_.Send(Sci::SCI_POSITIONAFTER, position));
+    const QPoint left = Text_.PointAt(position);
+    const QPoint right = Text_.PointAt(Text_.Send(Sci::SCI_POSITIONAFTER, position));
     const auto height = static_cast<int>(Text_.Send(Sci::SCI_TEXTHEIGHT));
     const int width = right.y() == left.y() ? std::max(1, right.x() - left.x()) : 1;
     return {Editor_.viewport()->mapToGlobal(left), QSize(width, height)};

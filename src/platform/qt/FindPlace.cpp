@@ -19,12 +19,8 @@ QRect OnScreen(const QWidget &widget) { return {widget.mapToGlobal(QPoint(0, 0))
 /// The lines of the selection from its leftmost to its rightmost place; screen coordinates.
 QRect SelectionOnScreen(const Sci &editor) {
     const ScintillaText text(editor);
-    const auto pointOf = [&text](BytePosition place) {
-        return QPoint(static_cast<int>(text.Send(Sci::SCI_POINTXFROMPOSITION, 0, place)),
-                      static_cast<int>(text.Send(Sci::SCI_POINTYFROMPOSITION, 0, place)));
-    };
-    const QPoint start = pointOf(text.SelectionStart());
-    const QPoint end = pointOf(text.SelectionEnd());
+    const QPoint start = text.PointAt(text.SelectionStart());
+    const QPoint end = text.PointAt(text.SelectionEnd());
     const auto height = static_cast<int>(text.Send(Sci::SCI_TEXTHEIGHT, 0));
     const QRect lines(QPoint(std::min(start.x(), end.x()), start.y()),
                       QPoint(std::max(start.x(), end.x()), end.y() + height));

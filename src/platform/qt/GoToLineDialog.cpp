@@ -62,7 +62,7 @@ GoToLineDialog::GoToLineDialog(LineNumber current, int lineCount, QWidget *paren
 void GoToLineDialog::accept() {
     const std::optional<TextPosition> target = ReadLineRequest(Line_->text(), LineCount_);
     if (!target)
-        return ShowHint(tr("Escriba un número de línea, por ejemplo 12 o 12:5."));
+        return ShowHint(tr("Escribe un número de línea, por ejemplo 12 o 12:5."));
     Target_ = *target;
     QDialog::accept();
 }

@@ -107,7 +107,7 @@ std::optional<QString> Choose(QFileDialog &dialog, const FileChooser &chooser,
     if (!chooser.Title.isEmpty())
         dialog.setWindowTitle(chooser.Title);
     SetFilter(dialog, chooser.Filter);
-    SpanishFileTypes fileTypes;
+    static SpanishFileTypes fileTypes; // the dialog's thread asks it until the dialog is gone
     dialog.setIconProvider(&fileTypes);
     const QString folder = StartFolder(chooser, lastFolder);
     if (!folder.isEmpty())

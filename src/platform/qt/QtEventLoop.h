@@ -11,8 +11,9 @@ class QtEventLoop final : public EventLoop {
   public:
     void ProcessPendingEvents() override;
     void ProcessWindowEvents() override;
-    /// Gives up the time slice once a millisecond: a second call within one has nothing left to give
-    /// up. The clock is read at every 64th call only, since it costs more than what is done between.
+    /// Gives up the time slice once a millisecond: a second call within one has nothing left to
+    /// give up. The clock is read at every 64th call only, since it costs more than what is done
+    /// between.
     void Yield() override;
     bool IsCtrlDown() override;
 

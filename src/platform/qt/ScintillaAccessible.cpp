@@ -79,8 +79,7 @@ void ScintillaAccessibility::TellInserted() {
 }
 
 QString ScintillaAccessibility::TextOf(Stretch stretch) const {
-    const std::string_view bytes = Text_.Bytes(stretch.Start, stretch.End);
-    return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    return FromUtf8(Text_.Bytes(stretch.Start, stretch.End));
 }
 
 void ScintillaAccessibility::TellCaret() {

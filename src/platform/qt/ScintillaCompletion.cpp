@@ -21,10 +21,6 @@ constexpr BytePosition LongestWord = 256;
 
 constexpr int SmallestFont = 6;
 
-QString FromUtf8(std::string_view bytes) {
-    return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
-}
-
 BytePosition StartOfWordAt(const ScintillaText &text, BytePosition caret) {
     const BytePosition from = std::max(text.LineStart(text.LineOf(caret)), caret - LongestWord);
     const std::string_view before = text.Bytes(from, caret);
@@ -52,10 +48,8 @@ QFont ShownFont(const ScintillaText &text) {
 
 /// Where the line at `position` shows, at that position, in global coordinates.
 QRect ShownPlace(const ScintillaEditor &editor, const ScintillaText &text, BytePosition position) {
-    const auto left = static_cast<int>(text.Send(Sci::SCI_POINTXFROMPOSITION, 0, position));
-    const auto top = static_cast<int>(text.Send(Sci::SCI_POINTYFROMPOSITION, 0, position));
     const auto height = static_cast<int>(text.Send(Sci::SCI_TEXTHEIGHT));
-    return {editor.viewport()->mapToGlobal(QPoint(left, top)), QSize(1, height)};
+    return {editor.viewport()->mapToGlobal(text.PointAt(position)), QSize(1, height)};
 }
 
 /// Keys that may go on with the word, or that do nothing by themselves; the text tells afterwards.

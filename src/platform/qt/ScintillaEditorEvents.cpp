@@ -63,10 +63,9 @@ void ScintillaEditor::InsertLineBreak() {
 }
 
 std::string ScintillaEditor::LineBreakAt(BytePosition position) const {
-    static constexpr std::string_view lineEnds[] = {"\r\n", "\r", "\n"};
     const std::string_view before = Text_.Bytes(Text_.LineStart(Text_.LineOf(position)), position);
     const std::size_t indent = std::min(before.find_first_not_of(" \t"), before.size());
-    std::string lineBreak(lineEnds[Text_.Send(SCI_GETEOLMODE)]);
+    std::string lineBreak(Text_.LineEndBytes());
     lineBreak += before.substr(0, indent);
     return lineBreak;
 }

@@ -10,10 +10,6 @@ namespace Quillbox {
 
 namespace {
 
-QString FromUtf8(std::string_view bytes) {
-    return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
-}
-
 std::string_view ViewOf(const QByteArray &bytes) {
     return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
 }

@@ -12,15 +12,10 @@ namespace {
 
 using Sci = QsciScintillaBase;
 
-std::string_view LineEndOf(const ScintillaText &text) {
-    static constexpr std::string_view lineEnds[] = {"\r\n", "\r", "\n"};
-    return lineEnds[text.Send(Sci::SCI_GETEOLMODE)];
-}
-
 ReplacementText ReplacementFor(const FindTask &task, const QString &replacement,
                                const ScintillaText &text) {
     const std::string bytes = EditorBytes(replacement).toStdString();
-    return task.Request.IsExpression ? ReplacementText::WithGroups(bytes, LineEndOf(text))
+    return task.Request.IsExpression ? ReplacementText::WithGroups(bytes, text.LineEndBytes())
                                      : ReplacementText::AsItStands(bytes);
 }
 

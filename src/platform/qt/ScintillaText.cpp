@@ -38,6 +38,10 @@ QString EditorCharacters(const QString &text) {
 
 QByteArray EditorBytes(const QString &text) { return EditorCharacters(text).toUtf8(); }
 
+QString FromUtf8(std::string_view bytes) {
+    return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
+}
+
 ScintillaText::ScintillaText(const QsciScintillaBase &control)
     : Function_(reinterpret_cast<DirectFunction>(
           control.SendScintillaPtrResult(Sci::SCI_GETDIRECTFUNCTION)))
@@ -94,6 +98,16 @@ std::string_view ScintillaText::Bytes(BytePosition start, BytePosition end) cons
 
 std::string_view ScintillaText::LineBytes(LineIndex line) const {
     return Bytes(LineStart(line), LineEnd(line));
+}
+
+std::string_view ScintillaText::LineEndBytes() const {
+    static constexpr std::string_view lineEnds[] = {"\r\n", "\r", "\n"};
+    return lineEnds[Send(Sci::SCI_GETEOLMODE)];
+}
+
+QPoint ScintillaText::PointAt(BytePosition position) const {
+    return {static_cast<int>(Send(Sci::SCI_POINTXFROMPOSITION, 0, position)),
+            static_cast<int>(Send(Sci::SCI_POINTYFROMPOSITION, 0, position))};
 }
 
 BytePosition ScintillaText::PositionOf(TextPosition position) const {

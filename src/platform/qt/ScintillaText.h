@@ -6,6 +6,7 @@
 #include <Qsci/qsciscintillabase.h>
 
 #include <QByteArray>
+#include <QPoint>
 #include <QString>
 
 #include <cstdint>
@@ -27,6 +28,7 @@ constexpr int DeletionReport =
 QString EditorCharacters(const QString &text);
 /// The same as UTF-8.
 QByteArray EditorBytes(const QString &text);
+QString FromUtf8(std::string_view bytes);
 
 /// The text of an editing component: messages to it, and the way from lines and character columns
 /// to its byte positions and back. Lines and columns outside the text mean the nearest inside.
@@ -55,6 +57,11 @@ class ScintillaText {
     /// Valid until the next change of the text.
     std::string_view Bytes(BytePosition start, BytePosition end) const;
     std::string_view LineBytes(LineIndex line) const;
+
+    /// What ends the lines that are typed.
+    std::string_view LineEndBytes() const;
+    /// Where a position shows, from the upper left corner of the viewport.
+    QPoint PointAt(BytePosition position) const;
 
     BytePosition PositionOf(TextPosition position) const;
     TextPosition PositionAt(BytePosition position) const;
