@@ -58,9 +58,12 @@ void frmSettings::ShowUntilClosed() {
     } while (ComesAgain_ && parentWidget()->isVisible());
 }
 
+/// It comes again where the person has put it, not in the middle of the main window.
 void frmSettings::Hide() {
     LastFocus_ = focusWidget();
+    const QPoint place = pos();
     hide();
+    move(place);
 }
 
 void frmSettings::ShowAgain() { ComesAgain_ = true; }
