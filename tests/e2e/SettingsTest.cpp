@@ -16,6 +16,7 @@ const QString FontFamily = QStringLiteral("DejaVu Sans Mono");
 /// Of the main window.
 constexpr QPoint SettingsButton(192, 40);
 constexpr QPoint BlankPaper(600, 300);
+constexpr QPoint LineNumbers(45, 300);
 /// Of the dialog.
 constexpr QPoint AcceptButton(-309, -22);
 constexpr QPoint ContextTab(200, 26);
@@ -137,7 +138,10 @@ class Settings : public ProgramTest {
 
     bool PaperIs(const char *html, QPoint place = BlankPaper) {
         const QColor color = QColor::fromString(QLatin1String(html));
-        return WaitUntil([&] { return Person_.PictureOf(MainTitle).pixelColor(place) == color; });
+        return WaitUntil([&] {
+            const QImage window = Person_.PictureOf(MainTitle);
+            return window.valid(place) && window.pixelColor(place) == color;
+        });
     }
     QString Stored(const QByteArray &key) {
         const QByteArray bytes = BytesOf(SettingsFile());
@@ -166,6 +170,7 @@ TEST_F(Settings, AllChosenInTheDialogAreStoredAndShownByTheNextRun) {
     ASSERT_TRUE(Start());
     ASSERT_TRUE(OpenNew());
     EXPECT_TRUE(PaperIs("#203040"));
+    EXPECT_TRUE(PaperIs("#203040", LineNumbers));
     ASSERT_TRUE(OpenDialog());
     EXPECT_EQ(Person_.CopyAll(), QStringLiteral("C:\\Juegos\\bin\\FXC.exe"));
     // What the dialog shows is what it stores again.
@@ -195,6 +200,7 @@ TEST_F(Settings, AppliedShowAtOnceAndTheDialogComesAgain) {
     ASSERT_TRUE(Start());
     ASSERT_TRUE(OpenNew());
     ASSERT_TRUE(PaperIs("#ffffff"));
+    EXPECT_NE(Person_.PictureOf(MainTitle).pixelColor(LineNumbers), QColor(Qt::white));
     ASSERT_TRUE(OpenDialog());
     ASSERT_TRUE(ChooseBackground("#203040"));
     ASSERT_TRUE(InDialog({QStringLiteral("alt+p")}));
