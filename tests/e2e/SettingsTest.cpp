@@ -181,6 +181,8 @@ TEST_F(Settings, AllChosenInTheDialogAreStoredAndShownByTheNextRun) {
 }
 
 TEST_F(Settings, CancelledAreNotStored) {
+    ASSERT_TRUE(Start() && Leaves());
+    const QByteArray before = BytesOf(SettingsFile());
     ASSERT_TRUE(Start());
     ASSERT_TRUE(OpenNew());
     ASSERT_TRUE(OpenDialog());
@@ -190,9 +192,7 @@ TEST_F(Settings, CancelledAreNotStored) {
     ASSERT_TRUE(DialogIsGone());
     EXPECT_TRUE(PaperIs("#ffffff"));
     ASSERT_TRUE(Leaves());
-    EXPECT_EQ(Stored("FenixCPath"), QStringLiteral("Checker"));
-    EXPECT_EQ(Stored("HelpPath"), QStringLiteral("C:\\Fenix\\docs\\index.xml"));
-    EXPECT_EQ(Stored("BackgroundColor"), QStringLiteral("16777215"));
+    EXPECT_EQ(BytesOf(SettingsFile()), before);
 }
 
 TEST_F(Settings, AppliedShowAtOnceAndTheDialogComesAgain) {
@@ -215,6 +215,10 @@ TEST_F(Settings, AppliedShowAtOnceAndTheDialogComesAgain) {
 
 TEST_F(Settings, WithATooShortCompilerPathStoreThePathsAloneAndTheProgramGoesOn) {
     ASSERT_TRUE(QFile::remove(SettingsFile()));
+    ASSERT_TRUE(Start() && Leaves());
+    QByteArray expected = BytesOf(SettingsFile());
+    expected.replace("C:\\Fenix\\FXC.exe", "corto");
+    expected.replace("C:\\Fenix\\docs\\index.xml", "otra.htm");
     ASSERT_TRUE(Start());
     ASSERT_TRUE(OpenDialog());
     ASSERT_TRUE(ChoosePaths(QStringLiteral("corto"), QStringLiteral("otra.htm")));
@@ -226,10 +230,7 @@ TEST_F(Settings, WithATooShortCompilerPathStoreThePathsAloneAndTheProgramGoesOn)
     ASSERT_TRUE(InDialog({QStringLiteral("Escape")}));
     ASSERT_TRUE(DialogIsGone());
     ASSERT_TRUE(Leaves());
-    EXPECT_EQ(Stored("FenixCPath"), QStringLiteral("corto"));
-    EXPECT_EQ(Stored("HelpPath"), QStringLiteral("otra.htm"));
-    EXPECT_EQ(Stored("MainPath"), QStringLiteral("C:\\Fenix\\"));
-    EXPECT_EQ(Stored("BackgroundColor"), QStringLiteral("16777215"));
+    EXPECT_EQ(BytesOf(SettingsFile()), expected);
 }
 
 } // namespace Quillbox
