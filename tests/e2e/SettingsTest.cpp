@@ -2,198 +2,235 @@
 #include "ProgramTest.h"
 
 #include <QColor>
+#include <QFile>
 #include <QFontDatabase>
-#include <QImage>
 
 namespace Quillbox {
 namespace {
 
-const QString SettingsTitle = QStringLiteral("^Configuración\\.\\.\\.$");
+const QString DialogTitle = QStringLiteral("^Configuración\\.\\.\\.$");
 const QString ColorTitle = QStringLiteral("^Elegir color$");
 const QString FontTitle = QStringLiteral("^Elegir fuente$");
+const QString FontFamily = QStringLiteral("DejaVu Sans Mono");
 
-const QString Tab = QStringLiteral("Tab");
-const QString Back = QStringLiteral("shift+Tab");
-const QString NextPage = QStringLiteral("ctrl+Tab");
-const QString Space = QStringLiteral("space");
-const QString All = QStringLiteral("ctrl+a");
+/// Of the main window.
+constexpr QPoint SettingsButton(192, 40);
+constexpr QPoint BlankPaper(600, 300);
+constexpr QPoint LineNumbers(45, 300);
+/// Of the dialog.
+constexpr QPoint AcceptButton(-309, -22);
+constexpr QPoint ContextTab(200, 26);
+constexpr QPoint LabelsBox(41, 180);
 
-/// In the editor, to the right of any text and of the dialog.
-constexpr QPoint InTheEditor(-60, 400);
+struct ItemChoice {
+    const char *Html;
+    int Style;
+};
 
-constexpr int BackgroundRow = 6;
+/// In the order of the list in the dialog; the last one is the background.
+constexpr ItemChoice Items[] = {{"#112233", 2}, {"#445566", 3}, {"#778899", 4}, {"#0a0b0c", 1},
+                                {"#d0e0f0", 2}, {"#010203", 4}, {"#203040", 0}};
 
-/// The settings dialog by keyboard, from one control to the next.
+constexpr const char *AllChosen = "[Quillbox]\r\n"
+                                  "FenixCPath=C:\\Juegos\\bin\\FXC.exe\r\n"
+                                  "HelpPath=C:\\Juegos\\ayuda.htm\r\n"
+                                  "MainPath=C:\\Juegos\\bin\\\r\n"
+                                  "ShowQuickHelp=0\r\n"
+                                  "ColorSyntax=0\r\n"
+                                  "StringColor=789258\r\n"
+                                  "OperatorsColor=10061943\r\n"
+                                  "TextColor=197121\r\n"
+                                  "BackgroundColor=4206624\r\n"
+                                  "KeywordsColor=3351057\r\n"
+                                  "CommentsColor=15786192\r\n"
+                                  "NumbersColor=6706500\r\n"
+                                  "StringsStyle=1\r\n"
+                                  "CommentsStyle=2\r\n"
+                                  "OperatorsStyle=4\r\n"
+                                  "TextStyle=4\r\n"
+                                  "KeywordsStyle=2\r\n"
+                                  "NumbersStyle=3\r\n"
+                                  "Font=DejaVu Sans Mono\r\n"
+                                  "FontSize=14\r\n"
+                                  "TabSize=7\r\n"
+                                  "LineNumbers=0\r\n"
+                                  "ShowFunctions=0\r\n"
+                                  "ShowLabels=0\r\n"
+                                  "ShowTypes=0\r\n";
+
+/// The settings dialog of the real program, from what a person chooses in it to the settings file.
 class Settings : public ProgramTest {
   protected:
     bool OpenDialog() {
-        if (!Press({QStringLiteral("alt+h")}) || !Person_.WaitForMenu())
-            return false;
-        Person_.Press({QStringLiteral("c")});
-        return Person_.PressIn(SettingsTitle, {});
+        return Press({QStringLiteral("alt+h")}) && Person_.WaitForMenu() &&
+               Person_.PressIn(MainTitle, {QStringLiteral("c")}) && InDialog({});
     }
-    bool InDialog(const QStringList &keys) { return Person_.PressIn(SettingsTitle, keys); }
-    bool DialogCloses() { return Person_.WaitForNoWindow(SettingsTitle); }
+    bool InDialog(const QStringList &keys) { return Person_.PressIn(DialogTitle, keys); }
+    bool DialogIsGone() { return Person_.WaitForNoWindow(DialogTitle); }
 
-    void Replace(const QString &text) {
-        Person_.Press({All});
-        Person_.Paste(text);
-    }
-    /// The list that has the keyboard selects the row.
-    void SelectRow(int row) {
-        Person_.Press(QStringList(QStringLiteral("Home")) +
-                      QStringList(row, QStringLiteral("Down")));
-    }
-    /// From the list of syntax classes and back to it.
-    bool ChooseColor(int row, const QColor &color) {
-        SelectRow(row);
-        Person_.Press({Tab, Space});
-        if (!Person_.PressIn(ColorTitle, {QStringLiteral("alt+h"), All}))
+    /// From the tab "Directorios", on which the dialog opens, to the first control of the next one.
+    bool GoToEditorTab() { return InDialog({QStringLiteral("ctrl+Tab")}); }
+
+    /// With the keyboard on the list of items, where it stays.
+    bool ChooseColor(const char *html) {
+        if (!InDialog({QStringLiteral("Tab"), QStringLiteral("space")}) ||
+            !Person_.PressIn(ColorTitle, {QStringLiteral("alt+h"), QStringLiteral("ctrl+a")}))
             return false;
-        Person_.Paste(color.name());
+        Person_.Paste(QLatin1String(html));
         Person_.Press({QStringLiteral("Return")});
-        return Person_.WaitForNoWindow(ColorTitle) && InDialog({Back});
+        return Person_.WaitForNoWindow(ColorTitle) && InDialog({QStringLiteral("shift+Tab")});
     }
-    /// From the list of syntax classes and back to it.
-    void ChooseStyle(int row, int style) {
-        SelectRow(row);
-        Person_.Press({Tab, Tab});
-        SelectRow(style);
-        Person_.Press({Back, Back});
+    bool ChooseStyle(int style) {
+        QStringList keys = {QStringLiteral("Tab"), QStringLiteral("Tab"), QStringLiteral("Home")};
+        keys += QStringList(style, QStringLiteral("Down"));
+        keys += QStringList(2, QStringLiteral("shift+Tab"));
+        return InDialog(keys);
     }
-    /// The last font of the list in this size, from the button that asks for it and back.
-    bool ChooseLastFont(int size) {
-        Person_.Press({Space});
-        if (!Person_.PressIn(FontTitle, {QStringLiteral("End"), Tab, Tab, All}))
+    bool ChooseItems() {
+        for (const ItemChoice &item : Items) {
+            const bool isBackground = &item == std::end(Items) - 1;
+            if (!ChooseColor(item.Html) || (!isBackground && !ChooseStyle(item.Style)) ||
+                !InDialog({QStringLiteral("Down")}))
+                return false;
+        }
+        return true;
+    }
+    bool ChooseBackground(const char *html) {
+        return GoToEditorTab() && InDialog({QStringLiteral("End")}) && ChooseColor(html);
+    }
+    /// With the keyboard on the button that changes the font. 14 is the eighth size on offer.
+    bool ChooseFont() {
+        const auto family = QFontDatabase::families().indexOf(FontFamily);
+        QStringList keys = {QStringLiteral("Home")};
+        keys += QStringList(family, QStringLiteral("Down"));
+        keys += {QStringLiteral("Tab"), QStringLiteral("Tab"), QStringLiteral("Home")};
+        keys += QStringList(7, QStringLiteral("Down")) + QStringList{QStringLiteral("Return")};
+        return family >= 0 && InDialog({QStringLiteral("space")}) &&
+               Person_.PressIn(FontTitle, keys) && Person_.WaitForNoWindow(FontTitle);
+    }
+    bool ChoosePaths(const QString &compiler, const QString &help) {
+        if (!InDialog({QStringLiteral("ctrl+a")}))
             return false;
-        Person_.Type(QString::number(size));
-        Person_.Press({QStringLiteral("Return")});
-        return Person_.WaitForNoWindow(FontTitle) && InDialog({});
+        Person_.Paste(compiler);
+        Person_.Press({QStringLiteral("Tab"), QStringLiteral("Tab"), QStringLiteral("ctrl+a")});
+        Person_.Paste(help);
+        return true;
     }
-    /// True once the editor shows the colour behind its text.
-    bool EditorShows(const QColor &color) {
+    /// From the list of items on; the background, the last item, has no list of styles to stop at.
+    bool ChooseTheRestOfTheEditor() {
+        if (!InDialog({QStringLiteral("Home"), QStringLiteral("Tab"), QStringLiteral("Tab"),
+                       QStringLiteral("Tab")}) ||
+            !ChooseFont() ||
+            !InDialog({QStringLiteral("Tab"), QStringLiteral("space"), QStringLiteral("Tab"),
+                       QStringLiteral("space"), QStringLiteral("Tab"), QStringLiteral("ctrl+a")}))
+            return false;
+        Person_.Type(QStringLiteral("7"));
+        return true;
+    }
+    bool ClearTheContext() {
+        return Person_.ClickIn(DialogTitle, ContextTab) &&
+               Person_.ClickIn(DialogTitle, LabelsBox) &&
+               InDialog({QStringLiteral("shift+Tab"), QStringLiteral("space"),
+                         QStringLiteral("shift+Tab"), QStringLiteral("space"),
+                         QStringLiteral("Tab"), QStringLiteral("Tab"), QStringLiteral("Tab"),
+                         QStringLiteral("space")});
+    }
+
+    bool PaperIs(const char *html, QPoint place = BlankPaper) {
+        const QColor color = QColor::fromString(QLatin1String(html));
         return WaitUntil([&] {
-            const QImage picture = Person_.PictureOf(MainTitle);
-            return !picture.isNull() &&
-                   picture.pixelColor(picture.width() + InTheEditor.x(), InTheEditor.y()) == color;
+            const QImage window = Person_.PictureOf(MainTitle);
+            return window.valid(place) && window.pixelColor(place) == color;
         });
     }
-    bool OpenGame() { return Start() && Open(Write(QStringLiteral("juego.prg"), "Cls\r\n")); }
+    QString Stored(const QByteArray &key) {
+        const QByteArray bytes = BytesOf(SettingsFile());
+        const auto start = bytes.indexOf('\n' + key + '=') + key.size() + 2;
+        return QString::fromLatin1(bytes.mid(start, bytes.indexOf('\r', start) - start));
+    }
 };
-
-QColor ColorOfRow(int row) { return {20 + 30 * row, 10 * row, 200 - 20 * row}; }
-
-/// As the settings file holds it: red in the low byte.
-QByteArray NumberOf(const QColor &color) {
-    return QByteArray::number(color.red() | color.green() << 8 | color.blue() << 16);
-}
 
 } // namespace
 
-TEST_F(Settings, ThatAreChangedInTheDialogAreKeptForTheNextStart) {
-    constexpr int styles[] = {2, 3, 4, 1, 4, 3};
-    ASSERT_TRUE(OpenGame());
-    ASSERT_TRUE(OpenDialog());
-    Replace(QStringLiteral("/opt/fénix/FXC.exe"));
-    Person_.Press({Tab, Tab});
-    Replace(QStringLiteral("/opt/fénix/docs/index.html"));
-
-    ASSERT_TRUE(InDialog({NextPage}));
-    for (int row = 0; row <= BackgroundRow; ++row)
-        ASSERT_TRUE(ChooseColor(row, ColorOfRow(row)));
-    for (int row = 0; row < BackgroundRow; ++row)
-        ChooseStyle(row, styles[row]);
-    Person_.Press({Tab, Tab, Tab});
-    ASSERT_TRUE(ChooseLastFont(14));
-    Person_.Press({Tab, Space, Tab, Space, Tab, All});
-    Person_.Type(QStringLiteral("8"));
-
-    ASSERT_TRUE(InDialog({NextPage, Space, Tab, Space, Tab, Space, Tab, Space}));
-    Person_.Press({QStringLiteral("Return")});
-    ASSERT_TRUE(DialogCloses());
-    EXPECT_TRUE(EditorShows(ColorOfRow(BackgroundRow)));
+TEST_F(Settings, AllChosenInTheDialogAreStoredAndShownByTheNextRun) {
+    ASSERT_TRUE(QFile::remove(SettingsFile()));
+    ASSERT_TRUE(Start());
+    ASSERT_TRUE(Person_.ClickIn(MainTitle, SettingsButton));
+    ASSERT_TRUE(ChoosePaths(QStringLiteral("C:\\Juegos\\bin\\FXC.exe"),
+                            QStringLiteral("C:\\Juegos\\ayuda.htm")));
+    ASSERT_TRUE(GoToEditorTab());
+    ASSERT_TRUE(ChooseItems());
+    ASSERT_TRUE(ChooseTheRestOfTheEditor());
+    ASSERT_TRUE(ClearTheContext());
+    ASSERT_TRUE(Person_.ClickIn(DialogTitle, AcceptButton));
+    ASSERT_TRUE(DialogIsGone());
     ASSERT_TRUE(Leaves());
+    EXPECT_EQ(BytesOf(SettingsFile()), AllChosen);
 
-    const QByteArray expected = "[Quillbox]\r\n"
-                                "FenixCPath=/opt/f\xe9nix/FXC.exe\r\n"
-                                "MainPath=/opt/f\xe9nix/\r\n"
-                                "HelpPath=/opt/f\xe9nix/docs/index.html\r\n"
-                                "ShowQuickHelp=0\r\n"
-                                "ColorSyntax=0\r\n"
-                                "StringColor=" +
-                                NumberOf(ColorOfRow(3)) +
-                                "\r\nOperatorsColor=" + NumberOf(ColorOfRow(2)) +
-                                "\r\nTextColor=" + NumberOf(ColorOfRow(5)) +
-                                "\r\nBackgroundColor=" + NumberOf(ColorOfRow(6)) +
-                                "\r\nKeywordsColor=" + NumberOf(ColorOfRow(0)) +
-                                "\r\nCommentsColor=" + NumberOf(ColorOfRow(4)) +
-                                "\r\nNumbersColor=" + NumberOf(ColorOfRow(1)) +
-                                "\r\nStringsStyle=1\r\n"
-                                "CommentsStyle=4\r\n"
-                                "OperatorsStyle=4\r\n"
-                                "TextStyle=3\r\n"
-                                "KeywordsStyle=2\r\n"
-                                "NumbersStyle=3\r\n"
-                                "Font=" +
-                                QFontDatabase::families().constLast().toLatin1() +
-                                "\r\nFontSize=14\r\n"
-                                "TabSize=8\r\n"
-                                "LineNumbers=0\r\n"
-                                "ShowFunctions=0\r\n"
-                                "ShowLabels=0\r\n"
-                                "ShowTypes=0\r\n";
-    EXPECT_EQ(BytesOf(SettingsFile()).toStdString(), expected.toStdString());
-
-    ASSERT_TRUE(OpenGame());
-    EXPECT_TRUE(EditorShows(ColorOfRow(BackgroundRow)));
+    ASSERT_TRUE(Start());
+    ASSERT_TRUE(OpenNew());
+    EXPECT_TRUE(PaperIs("#203040"));
+    EXPECT_TRUE(PaperIs("#203040", LineNumbers));
     ASSERT_TRUE(OpenDialog());
-    EXPECT_EQ(Person_.CopyAll(), QStringLiteral("/opt/fénix/FXC.exe"));
-    ASSERT_TRUE(InDialog({QStringLiteral("Escape")}));
-    ASSERT_TRUE(DialogCloses());
+    EXPECT_EQ(Person_.CopyAll(), QStringLiteral("C:\\Juegos\\bin\\FXC.exe"));
+    // What the dialog shows is what it stores again.
+    ASSERT_TRUE(InDialog({QStringLiteral("Return")}));
+    ASSERT_TRUE(DialogIsGone());
     ASSERT_TRUE(Leaves());
-    EXPECT_EQ(BytesOf(SettingsFile()).toStdString(), expected.toStdString());
+    EXPECT_EQ(BytesOf(SettingsFile()), AllChosen);
 }
 
-TEST_F(Settings, ThatAreAppliedShowBehindTheDialogAndThoseCancelledLaterNever) {
-    ASSERT_TRUE(OpenGame());
-    ASSERT_TRUE(EditorShows(Qt::white));
+TEST_F(Settings, CancelledAreNotStored) {
+    ASSERT_TRUE(Start() && Leaves());
+    const QByteArray before = BytesOf(SettingsFile());
+    ASSERT_TRUE(Start());
+    ASSERT_TRUE(OpenNew());
     ASSERT_TRUE(OpenDialog());
-    ASSERT_TRUE(InDialog({NextPage}));
-    for (const QColor &applied : {QColor(200, 240, 250), QColor(250, 240, 200)}) {
-        ASSERT_TRUE(InDialog({}));
-        ASSERT_TRUE(ChooseColor(BackgroundRow, applied));
-        ASSERT_TRUE(InDialog({QStringLiteral("alt+p")}));
-        EXPECT_TRUE(EditorShows(applied)); // after which the dialog comes again
-    }
-    ASSERT_TRUE(InDialog({}));
-    ASSERT_TRUE(ChooseColor(BackgroundRow, QColor(0, 0, 90)));
-    ASSERT_TRUE(InDialog({QStringLiteral("Escape")}));
-    ASSERT_TRUE(DialogCloses());
-    EXPECT_TRUE(EditorShows(QColor(250, 240, 200)));
+    ASSERT_TRUE(ChoosePaths(QStringLiteral("C:\\Otro\\FXC.exe"), QStringLiteral("otra.htm")));
+    ASSERT_TRUE(ChooseBackground("#203040"));
+    ASSERT_TRUE(InDialog({QStringLiteral("alt+c")}));
+    ASSERT_TRUE(DialogIsGone());
+    EXPECT_TRUE(PaperIs("#ffffff"));
     ASSERT_TRUE(Leaves());
-    EXPECT_TRUE(BytesOf(SettingsFile())
-                    .contains("BackgroundColor=" + NumberOf(QColor(250, 240, 200)) + "\r\n"));
+    EXPECT_EQ(BytesOf(SettingsFile()), before);
 }
 
-TEST_F(Settings, WithACompilerPathThatIsTooShortAreReportedAndTheProgramGoesOn) {
-    ASSERT_TRUE(OpenGame());
+TEST_F(Settings, AppliedShowAtOnceAndTheDialogComesAgain) {
+    ASSERT_TRUE(QFile::remove(SettingsFile()));
+    ASSERT_TRUE(Start());
+    ASSERT_TRUE(OpenNew());
+    ASSERT_TRUE(PaperIs("#ffffff"));
+    EXPECT_NE(Person_.PictureOf(MainTitle).pixelColor(LineNumbers), QColor(Qt::white));
     ASSERT_TRUE(OpenDialog());
-    Replace(QStringLiteral("corto"));
-    ASSERT_TRUE(InDialog({NextPage}));
-    ASSERT_TRUE(ChooseColor(BackgroundRow, QColor(0, 0, 90)));
-    Person_.Press({QStringLiteral("Return")});
-    ASSERT_NE(Person_.WaitForWindow(NoticeTitle), 0);
-    EXPECT_EQ(Person_.ReadMessage(NoticeTitle),
-              QStringLiteral("Se ha producido el error 5 en tiempo de ejecución:\n\n"
-                             "Argumento o llamada a procedimiento no válidos."));
+    ASSERT_TRUE(ChooseBackground("#203040"));
+    ASSERT_TRUE(InDialog({QStringLiteral("alt+p")}));
+    // Beside the dialog, which is in front of the paper's middle.
+    EXPECT_TRUE(PaperIs("#203040", QPoint(940, 300)));
+    ASSERT_TRUE(InDialog({QStringLiteral("Escape")}));
+    ASSERT_TRUE(DialogIsGone());
+    EXPECT_TRUE(PaperIs("#203040"));
+    ASSERT_TRUE(Leaves());
+    EXPECT_EQ(Stored("BackgroundColor"), QStringLiteral("4206624"));
+}
+
+TEST_F(Settings, WithATooShortCompilerPathStoreThePathsAloneAndTheProgramGoesOn) {
+    ASSERT_TRUE(QFile::remove(SettingsFile()));
+    ASSERT_TRUE(Start() && Leaves());
+    QByteArray expected = BytesOf(SettingsFile());
+    expected.replace("C:\\Fenix\\FXC.exe", "corto");
+    expected.replace("C:\\Fenix\\docs\\index.xml", "otra.htm");
+    ASSERT_TRUE(Start());
+    ASSERT_TRUE(OpenDialog());
+    ASSERT_TRUE(ChoosePaths(QStringLiteral("corto"), QStringLiteral("otra.htm")));
+    ASSERT_TRUE(ChooseBackground("#203040"));
+    ASSERT_TRUE(InDialog({QStringLiteral("alt+a")}));
+    EXPECT_TRUE(Person_.ReadMessage(NoticeTitle).contains(QStringLiteral("error 5 ")));
     ASSERT_TRUE(Person_.PressIn(NoticeTitle, {QStringLiteral("Return")}));
     ASSERT_TRUE(Person_.WaitForNoWindow(NoticeTitle));
     ASSERT_TRUE(InDialog({QStringLiteral("Escape")}));
-    ASSERT_TRUE(DialogCloses());
-    EXPECT_TRUE(EditorShows(Qt::white));
+    ASSERT_TRUE(DialogIsGone());
     ASSERT_TRUE(Leaves());
-    EXPECT_TRUE(BytesOf(SettingsFile()).contains("FenixCPath=corto\r\nMainPath=\r\n"));
-    EXPECT_TRUE(BytesOf(SettingsFile()).contains("BackgroundColor=16777215\r\n"));
+    EXPECT_EQ(BytesOf(SettingsFile()), expected);
 }
 
 } // namespace Quillbox
