@@ -55,6 +55,8 @@ class frmMuestraImagenes final : public QWidget, public ImagePreviewWindow {
     const EventBoundary &Boundary_;
     QLabel *imgMuestra;
     QStatusBar *stbStatusBar;
+    QSize SizeAskedFor_;
+    QSize SizeWhenAsked_;
     bool HadFocus_ = false;
     bool Leaving_ = false;
 };

@@ -70,6 +70,44 @@ TEST_F(PicturePreview, FitsItsPictureAgainAfterItWasResized) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return preview->size() == fitting; }));
 }
 
+/// A window manager that gives a window its own size whatever it asks for.
+class ImposedSize : public QObject {
+  public:
+    explicit ImposedSize(QWidget *window)
+        : QObject(window)
+        , Window_(window) {
+        window->installEventFilter(this);
+        window->resize(Size_);
+    }
+    int Refused = 0;
+
+  protected:
+    bool eventFilter(QObject *, QEvent *event) override {
+        if (event->type() == QEvent::Resize && Window_->size() != Size_) {
+            ++Refused;
+            QMetaObject::invokeMethod(
+                Window_, [this] { Window_->resize(Size_); }, Qt::QueuedConnection);
+        }
+        return false;
+    }
+
+  private:
+    static constexpr QSize Size_{700, 500};
+    QWidget *Window_;
+};
+
+TEST_F(PicturePreview, AsksOnlyOnceForASizeThatItDoesNotGet) {
+    WritePicture("nave.png", {320, 200});
+    frmMuestraImagenes *preview = ShowFile();
+    const auto *manager = new ImposedSize(preview);
+    for (int times = 0; times < 10; ++times) {
+        preview->repaint();
+        QCoreApplication::processEvents();
+    }
+    EXPECT_EQ(manager->Refused, 1);
+    EXPECT_EQ(preview->size(), QSize(700, 500));
+}
+
 TEST_F(PicturePreview, ShrinksAPictureThatTheScreenCannotHold) {
     WritePicture("grande.png", {5000, 1000});
     frmMuestraImagenes *preview = ShowFile();
