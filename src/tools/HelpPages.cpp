@@ -18,14 +18,6 @@ constexpr qsizetype DeclarationReach = 1024; ///< bytes in which a page names it
 const QStringList PageEndings = {"htm", "html", "xhtml", "shtml", "xml", "css"};
 const QStringList PictureEndings = {"png", "jpg", "jpeg", "gif", "bmp", "svg", "ico"};
 
-QString FromWindows1252(const QByteArray &bytes) {
-    static constexpr auto CodePage = MakeWindows1252();
-    QString text(bytes.size(), Qt::Uninitialized);
-    for (qsizetype i = 0; i < bytes.size(); ++i)
-        text[i] = QChar(CodePage[static_cast<unsigned char>(bytes[i])]);
-    return text;
-}
-
 using Change = std::function<QString(const QRegularExpressionMatch &)>;
 
 /// The text with every match changed.
