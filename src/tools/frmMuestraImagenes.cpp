@@ -97,6 +97,8 @@ void frmMuestraImagenes::PlacePicture(QPoint topLeft) { imgMuestra->move(topLeft
 
 QSize frmMuestraImagenes::PictureSize() const { return imgMuestra->size(); }
 
+int frmMuestraImagenes::DotsPerInch() const { return logicalDpiX(); }
+
 /// Where windows get their size from the system, asking again after every repaint would go on for
 /// ever: a size that was refused is not asked for again until the window has become another one.
 void frmMuestraImagenes::SetSize(QSize withFrame) {

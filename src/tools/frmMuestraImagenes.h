@@ -32,6 +32,7 @@ class frmMuestraImagenes final : public QWidget, public ImagePreviewWindow {
     void ShowStatusBar(bool shown) override;
     void PlacePicture(QPoint topLeft) override;
     QSize PictureSize() const override;
+    int DotsPerInch() const override;
     void SetSize(QSize withFrame) override;
     void Unload() override;
 
