@@ -8,6 +8,7 @@
 #include <QListView>
 #include <QScreen>
 #include <QStatusBar>
+#include <QWindow>
 
 namespace Quillbox {
 namespace {
@@ -34,9 +35,16 @@ class PicturePreview : public UiProgram {
         auto *files = Browser->findChild<QListView *>("filArchivos");
         files->setFocus();
         files->setCurrentIndex(files->model()->index(0, 0));
+        const std::size_t said = Questions.Messages.size();
         QTest::keyClick(files, Qt::Key_Space);
-        QTest::qWait(20);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return HasTold(said) || HasSettled(); }));
         return Preview();
+    }
+    bool HasTold(std::size_t before) const { return Questions.Messages.size() > before; }
+    /// The picture has the keyboard and has been fitted.
+    bool HasSettled() {
+        return Preview() && QGuiApplication::focusWindow() == Preview()->windowHandle() &&
+               Preview()->findChild<QStatusBar *>("stbStatusBar")->isHidden();
     }
     frmMuestraImagenes *Preview() { return Find<frmMuestraImagenes>("frmMuestraImagenes"); }
     QString TextOfMessage() {
