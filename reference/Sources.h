@@ -3,14 +3,9 @@
 
 #include "reference/Reference.h"
 
-#include <QByteArray>
-
 #include <optional>
 
 namespace Quillbox {
-
-/// The text of a file in Windows-1252.
-QString FromWindows1252(const QByteArray &bytes);
 
 /// The two word files, line by line. What does not fit together is added to `problems`.
 std::vector<ReferenceWord> PairWords(const QString &keywords, const QString &quickHelp,

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/Windows1252.h"
 #include "reference/Sources.h"
 
 namespace Quillbox {
@@ -24,15 +23,6 @@ ReferenceWord WordOf(const QString &name, const QString &help) {
 }
 
 } // namespace
-
-QString FromWindows1252(const QByteArray &bytes) {
-    static constexpr auto CodePage = MakeWindows1252();
-    QString text;
-    text.reserve(bytes.size());
-    for (const char byte : bytes)
-        text += QChar(CodePage[static_cast<unsigned char>(byte)]);
-    return text;
-}
 
 std::vector<ReferenceWord> PairWords(const QString &keywords, const QString &quickHelp,
                                      QStringList &problems) {

@@ -7,4 +7,8 @@ namespace Quillbox {
 
 QString AppDirOf(const QString &programFolder) { return programFolder + PathSeparator; }
 
+QString HelpPagePath(const QString &appDir, const QString &page) {
+    return appDir + QStringLiteral("Ayuda") + PathSeparator + page;
+}
+
 } // namespace Quillbox

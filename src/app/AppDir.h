@@ -9,4 +9,7 @@ namespace Quillbox {
 /// doubled one, which the file system accepts. Every data file is `AppDir` and a relative name.
 QString AppDirOf(const QString &programFolder);
 
+/// A page of Quillbox's own help, by its file name.
+QString HelpPagePath(const QString &appDir, const QString &page);
+
 } // namespace Quillbox

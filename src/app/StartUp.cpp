@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/StartUp.h"
 
+#include "app/AppDir.h"
 #include "app/CommandState.h"
 #include "app/WordFiles.h"
 #include "app/settings.h"
 #include "platform/HelpViewer.h"
 #include "platform/LanguageRegistration.h"
 #include "platform/MainWindow.h"
-#include "platform/Paths.h"
 #include "project/Project.h"
 
 namespace Quillbox {
@@ -22,7 +22,7 @@ void StartUp::Run() {
     Store.LoadSettings();
     Language.Registration.RegisterLanguage(LanguageName, Language.Definition);
     Help.Show();
-    Help.Navigate(AppDir + QStringLiteral("Ayuda") + PathSeparator + QStringLiteral("index.htm"));
+    Help.Navigate(HelpPagePath(AppDir, QStringLiteral("index.htm")));
 }
 
 } // namespace Quillbox

@@ -56,11 +56,8 @@ struct DocumentLayout {
     int FirstPanelMinimumWidth;
 };
 
-/// What stands beside the editor in a window's width: the frame of a document window.
-inline constexpr int FrameWidthTwips = 115;
-
-/// Where editor and first status panel end. `frameWidth` is FrameWidthTwips in the units of the
-/// other values; `otherPanels` is the sum of the minimum widths of panels 2 to 8.
+/// Where editor and first status panel end. `frameWidth` is what the window's frame takes of its
+/// width; `otherPanels` is the sum of the minimum widths of panels 2 to 8.
 DocumentLayout LayOutDocument(int windowWidth, int statusBarTop, int frameWidth, int otherPanels);
 
 } // namespace Quillbox

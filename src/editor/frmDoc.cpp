@@ -3,6 +3,7 @@
 
 #include "app/frmMainArea.h"
 #include "documents/DocumentRegistry.h"
+#include "platform/Twips.h"
 #include "platform/qt/EventBoundary.h"
 #include "platform/qt/ScintillaEditor.h"
 
@@ -25,8 +26,6 @@ constexpr PanelDesign Panels[] = {{"", 0},      {"Modificado", 12}, {"1 :1", 14}
                                   {"ANSI", 7},  {"", 0},            {"", 0},      {"", 0}};
 
 constexpr int PanelIndent = 6;
-
-int PixelsOfTwips(int twips, int dotsPerInch) { return twips * dotsPerInch / 1440; }
 
 /// A child window's own menu would claim Ctrl+W, too, and a shortcut with two owners does nothing.
 /// The File menu keeps it; the frame gets the key that closes child windows everywhere else.

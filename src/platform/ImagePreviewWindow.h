@@ -15,6 +15,8 @@ class ImagePreviewWindow {
     virtual void PlacePicture(QPoint topLeft) = 0;
     /// As it is shown.
     virtual QSize PictureSize() const = 0;
+    /// Of the screen, as the system scales it.
+    virtual int DotsPerInch() const = 0;
     /// Sizes the window with its frame; it never becomes too small for its picture.
     virtual void SetSize(QSize withFrame) = 0;
     virtual void Unload() = 0;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings_dialog/SettingsDialog.h"
 
+#include "app/AppDir.h"
 #include "app/Navigation.h"
 #include "app/Numbers.h"
 #include "app/settings.h"
@@ -10,7 +11,6 @@
 #include "platform/EditorControl.h"
 #include "platform/EventLoop.h"
 #include "platform/LanguageRegistration.h"
-#include "platform/Paths.h"
 #include "platform/Programs.h"
 #include "platform/ResumeNext.h"
 #include "platform/SettingsWindow.h"
@@ -195,8 +195,8 @@ void SettingsDialog::cmdCancelar_Click() { Window_.Unload(); }
 
 /// The path is not quoted: the explorer takes the rest of its command line as one path.
 void SettingsDialog::cmdAyuda_Click() {
-    Parts_.Launcher.Start(QStringLiteral("explorer.exe ") + Parts_.AppDir +
-                              QStringLiteral("Ayuda") + PathSeparator + QStringLiteral("HowTo.htm"),
+    Parts_.Launcher.Start(QStringLiteral("explorer.exe ") +
+                              HelpPagePath(Parts_.AppDir, QStringLiteral("HowTo.htm")),
                           WindowStyle::Maximized);
 }
 

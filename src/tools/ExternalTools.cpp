@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/ExternalTools.h"
 
+#include "app/AppDir.h"
 #include "build/modExecCMD.h"
 #include "platform/Paths.h"
 #include "platform/Programs.h"
@@ -26,8 +27,8 @@ void ExternalTools::mnuHerramientas_ScaffolderGenerator_Click() {
 }
 
 void ExternalTools::mnuAyuda_Inkwell_Click() {
-    Launcher_.Start(QStringLiteral("explorer.exe ") + AppDir_ + QStringLiteral("Ayuda") +
-                        PathSeparator + QStringLiteral("index.htm"),
+    Launcher_.Start(QStringLiteral("explorer.exe ") +
+                        HelpPagePath(AppDir_, QStringLiteral("index.htm")),
                     WindowStyle::Maximized);
 }
 

@@ -8,6 +8,8 @@
 #include <QStringList>
 #include <QUrl>
 
+#include <functional>
+
 namespace Quillbox {
 namespace {
 
@@ -16,12 +18,17 @@ constexpr qsizetype DeclarationReach = 1024; ///< bytes in which a page names it
 const QStringList PageEndings = {"htm", "html", "xhtml", "shtml", "xml", "css"};
 const QStringList PictureEndings = {"png", "jpg", "jpeg", "gif", "bmp", "svg", "ico"};
 
-QString FromWindows1252(const QByteArray &bytes) {
-    static constexpr auto CodePage = MakeWindows1252();
-    QString text(bytes.size(), Qt::Uninitialized);
-    for (qsizetype i = 0; i < bytes.size(); ++i)
-        text[i] = QChar(CodePage[static_cast<unsigned char>(bytes[i])]);
-    return text;
+using Change = std::function<QString(const QRegularExpressionMatch &)>;
+
+/// The text with every match changed.
+QString Changed(const QString &text, const QRegularExpression &expression, const Change &change) {
+    QString result;
+    qsizetype end = 0;
+    for (const QRegularExpressionMatch &match : expression.globalMatch(text)) {
+        result += text.mid(end, match.capturedStart() - end) + change(match);
+        end = match.capturedEnd();
+    }
+    return result + text.mid(end);
 }
 
 /// In lower case; empty without a declaration.
@@ -75,15 +82,27 @@ QString FrameLink(const QString &frame) {
 QString WithImportedStyleSheets(const QString &html) {
     static const QRegularExpression Link(QStringLiteral("<link\\b[^>]*\\bstylesheet\\b[^>]*>"),
                                          QRegularExpression::CaseInsensitiveOption);
-    QString page;
-    qsizetype end = 0;
-    for (const QRegularExpressionMatch &match : Link.globalMatch(html)) {
-        page += html.mid(end, match.capturedStart() - end);
-        page += QStringLiteral("<style type=\"text/css\">@import url(\"%1\");</style>")
-                    .arg(AttributeOf(match.captured(), QStringLiteral("href")));
-        end = match.capturedEnd();
-    }
-    return page + html.mid(end);
+    return Changed(html, Link, [](const QRegularExpressionMatch &match) {
+        return QStringLiteral("<style type=\"text/css\">@import url(\"%1\");</style>")
+            .arg(AttributeOf(match.captured(), QStringLiteral("href")));
+    });
+}
+
+/// Only styles are measured anew: what a page says about them in its text stays as it is.
+QString WithStylesInPoints(const QString &html) {
+    static const QRegularExpression StyleOrTag(
+        QStringLiteral(R"re((<style\b.*?(?:</style|\z))|<[a-z][^>]*>)re"),
+        QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression Attribute(
+        QStringLiteral(R"re(\sstyle\s*=\s*(?:"[^"]*"|'[^']*'|[^\s>]+))re"),
+        QRegularExpression::CaseInsensitiveOption);
+    return Changed(html, StyleOrTag, [](const QRegularExpressionMatch &place) {
+        if (place.hasCaptured(1))
+            return WithSizesInPoints(place.captured());
+        return Changed(place.captured(), Attribute, [](const QRegularExpressionMatch &style) {
+            return WithSizesInPoints(style.captured());
+        });
+    });
 }
 
 QString WithoutComments(QString html) {
@@ -118,20 +137,15 @@ QString DecodePage(const QByteArray &bytes) {
     return mayBeUtf8 && !decoder.hasError() ? text : FromWindows1252(bytes);
 }
 
-QString WithSizesInPoints(const QString &text) {
+QString WithSizesInPoints(const QString &styles) {
     static const QRegularExpression Size(
         QStringLiteral(R"re((\bfont-size\s*:\s*)(\d+(?:\.\d+)?)px)re"),
         QRegularExpression::CaseInsensitiveOption);
     constexpr double PointsPerPixel = 0.75;
-    QString result;
-    qsizetype end = 0;
-    for (const QRegularExpressionMatch &match : Size.globalMatch(text)) {
-        result += text.mid(end, match.capturedStart() - end) + match.captured(1) +
-                  QString::number(match.captured(2).toDouble() * PointsPerPixel) +
-                  QStringLiteral("pt");
-        end = match.capturedEnd();
-    }
-    return result + text.mid(end);
+    return Changed(styles, Size, [](const QRegularExpressionMatch &match) {
+        return match.captured(1) + QString::number(match.captured(2).toDouble() * PointsPerPixel) +
+               QStringLiteral("pt");
+    });
 }
 
 QString PageOf(const QString &path, const QByteArray &bytes) {
@@ -141,7 +155,7 @@ QString PageOf(const QString &path, const QByteArray &bytes) {
             .arg(QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded));
     const QString text = DecodePage(bytes);
     if (PageEndings.contains(ending) || LooksLikePage(text))
-        return WithSizesInPoints(WithImportedStyleSheets(FramesAsLinks(text)));
+        return WithStylesInPoints(WithImportedStyleSheets(FramesAsLinks(text)));
     return text.contains(QChar::Null) ? UnreadablePage(path) : TextPage(text);
 }
 

@@ -11,9 +11,9 @@ namespace Quillbox {
 /// one, what is valid UTF-8 is UTF-8, anything else Windows-1252.
 QString DecodePage(const QByteArray &bytes);
 
-/// A style sheet or a page whose letters are measured in points instead of pixels, at 96 pixels to
-/// the inch: the viewer cannot zoom letters in pixels.
-QString WithSizesInPoints(const QString &text);
+/// A style sheet whose letters are measured in points instead of pixels, at 96 pixels to the inch:
+/// the viewer cannot zoom letters in pixels.
+QString WithSizesInPoints(const QString &styles);
 
 /// The HTML that shows a file, by the ending of its name: pages as they are, pictures as a page
 /// with nothing else, everything else as plain text. A page of frames becomes a page with a link to

@@ -3,20 +3,20 @@
 
 #include "platform/ImagePreviewWindow.h"
 #include "platform/MainWindow.h"
-
-#include <QtMath>
+#include "platform/Twips.h"
 
 #include <algorithm>
 
 namespace Quillbox {
 namespace {
 
-constexpr double TwipsPerPixel = 15;
+/// What frame and title bar take of the window's height.
+constexpr int FrameHeightTwips = 400;
 
-int PixelsOf(int twips) { return qRound(twips / TwipsPerPixel); }
-
-/// What frame and title bar take beside the picture.
-QSize FrameAllowance() { return {PixelsOf(115), PixelsOf(400)}; }
+QSize FrameAllowance(int dotsPerInch) {
+    return {PixelsOfTwips(FrameWidthTwips, dotsPerInch),
+            PixelsOfTwips(FrameHeightTwips, dotsPerInch)};
+}
 
 /// A picture that is smaller than this in both directions is enlarged.
 constexpr int SmallestSide = 64;
@@ -44,7 +44,7 @@ void ImagePreview::Form_Load() {
 
 void ImagePreview::Form_Paint() {
     Window_.ShowStatusBar(false);
-    Window_.SetSize(Window_.PictureSize() + FrameAllowance());
+    Window_.SetSize(Window_.PictureSize() + FrameAllowance(Window_.DotsPerInch()));
 }
 
 void ImagePreview::Form_GotFocus() { Form_Paint(); }

@@ -30,10 +30,12 @@ struct Header {
 Header ReadHeader(ByteReader &bytes) {
     Header header;
     header.IdLength = bytes.Byte();
-    bytes.Skip(1);
+    const bool hasPalette = bytes.Byte() != 0;
     header.Type = bytes.Byte();
     header.PaletteFirst = bytes.Word();
     header.PaletteCount = bytes.Word();
+    if (!hasPalette)
+        header.PaletteCount = 0; // some programs leave a number there
     header.PaletteDepth = bytes.Byte();
     bytes.Skip(4);
     header.Width = bytes.Word();

@@ -48,7 +48,7 @@ HelpBrowser::HelpBrowser(QWidget *parent)
     style->setParent(this);
     setStyle(style);
     FindBar_->hide();
-    connect(FindBar_, &FindBar::Closed, this, &HelpBrowser::PlaceFindBar);
+    connect(FindBar_, &FindBar::VisibilityChanged, this, &HelpBrowser::PlaceFindBar);
     // What was found stays marked while the keyboard is in the bar.
     QPalette colors = palette();
     for (const QPalette::ColorRole role : {QPalette::Highlight, QPalette::HighlightedText})
@@ -107,10 +107,7 @@ void HelpBrowser::doSetSource(const QUrl &url, QTextDocument::ResourceType) {
         QTextBrowser::doSetSource(target, QTextDocument::HtmlResource);
 }
 
-void HelpBrowser::ShowFindBar() {
-    FindBar_->Open();
-    PlaceFindBar();
-}
+void HelpBrowser::ShowFindBar() { FindBar_->Open(); }
 
 void HelpBrowser::FindNext() {
     if (FindBar_->HasTerm())

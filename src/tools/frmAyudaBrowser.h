@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/HelpViewer.h"
+#include "platform/qt/WheelNotches.h"
 #include "platform/qt/ZoomedDevice.h"
 
 #include <QTextBrowser>
@@ -54,6 +55,7 @@ class HelpBrowser final : public QTextBrowser {
     void PlaceFindBar();
 
     ZoomedDevice Device_;
+    WheelNotches Notches_;
     PageImages *Images_;
     FindBar *FindBar_;
 };

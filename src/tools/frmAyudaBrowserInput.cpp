@@ -55,8 +55,8 @@ void HelpBrowser::keyPressEvent(QKeyEvent *event) {
 void HelpBrowser::wheelEvent(QWheelEvent *event) {
     if (!(event->modifiers() & Qt::ControlModifier))
         return QTextBrowser::wheelEvent(event);
-    if (event->angleDelta().y() != 0)
-        ZoomStep(event->angleDelta().y() > 0 ? 1 : -1);
+    if (const int notches = Notches_.Take(event->angleDelta().y()))
+        ZoomStep(notches);
     event->accept();
 }
 

@@ -65,10 +65,22 @@ void FindBar::Open() {
         Term_->setText(selection);
     }
     Result_->clear();
-    show();
-    raise();
+    Appear();
     Term_->setFocus();
     Term_->selectAll();
+}
+
+void FindBar::Appear() {
+    show();
+    raise();
+    emit VisibilityChanged();
+}
+
+/// The bar must not cover what was found.
+void FindBar::Tell(const QString &result) {
+    Result_->setText(result);
+    Appear();
+    Page_.ensureCursorVisible();
 }
 
 bool FindBar::HasTerm() const { return !Term_->text().isEmpty(); }
@@ -85,12 +97,11 @@ void FindBar::Find(QTextDocument::FindFlags direction) {
     const bool backwards = direction.testFlag(QTextDocument::FindBackward);
     Page_.moveCursor(backwards ? QTextCursor::End : QTextCursor::Start);
     if (Page_.find(Term_->text(), direction)) {
-        Result_->setText(backwards ? QStringLiteral("Se sigue desde el final de la página.")
-                                   : QStringLiteral("Se sigue desde el principio de la página."));
-        return;
+        return Tell(backwards ? QStringLiteral("Se sigue desde el final de la página.")
+                              : QStringLiteral("Se sigue desde el principio de la página."));
     }
     Page_.setTextCursor(place);
-    Result_->setText(QStringLiteral("No se encuentra «%1».").arg(Term_->text()));
+    Tell(QStringLiteral("No se encuentra «%1».").arg(Term_->text()));
 }
 
 /// What is found already may become longer with the next letter.
@@ -106,7 +117,7 @@ void FindBar::FindWhileTyping() {
 void FindBar::Close() {
     Page_.setFocus();
     hide();
-    emit Closed();
+    emit VisibilityChanged();
 }
 
 /// Keys that mean nothing here must not reach the page.

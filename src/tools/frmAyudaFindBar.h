@@ -21,11 +21,13 @@ class FindBar final : public QFrame {
     /// Shows the bar with the keyboard in it, and the selection as the text to find.
     void Open();
     bool HasTerm() const;
+    /// A hidden bar appears without the keyboard when there is something to tell.
     void FindNext();
     void FindPrevious();
 
   signals:
-    void Closed();
+    /// The bar has appeared or gone; the page gives it its place.
+    void VisibilityChanged();
 
   protected:
     void keyPressEvent(QKeyEvent *event) override;
@@ -35,6 +37,8 @@ class FindBar final : public QFrame {
     void AddButton(const QString &name, const QString &caption, void (FindBar::*command)());
     void Find(QTextDocument::FindFlags direction);
     void FindWhileTyping();
+    void Appear();
+    void Tell(const QString &result);
     void Close();
 
     QTextEdit &Page_;

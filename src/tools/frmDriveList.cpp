@@ -26,13 +26,15 @@ DriveList::DriveList(Folders &disks, QWidget *parent)
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(LettersShown);
     Fill();
-    connect(this, &QComboBox::activated, this, &DriveList::Chosen);
+    connect(this, &QComboBox::activated, this, &DriveList::Choose);
 }
 
 void DriveList::Select(const QString &path) {
     const QSignalBlocker quiet(this);
-    if (IsDrive(path))
-        setCurrentIndex(findData(path));
+    if (!IsDrive(path))
+        return;
+    setCurrentIndex(findData(path));
+    SelectedBefore_ = path;
 }
 
 void DriveList::SelectHolding(const QString &folder) { Select(FindDriveHolding(folder, Drives_)); }
@@ -49,6 +51,14 @@ void DriveList::focusInEvent(QFocusEvent *event) {
     QComboBox::focusInEvent(event);
     if (event->reason() != Qt::PopupFocusReason)
         emit GotFocus();
+}
+
+/// A drive that is chosen again must not lead out of its folders back to its root.
+void DriveList::Choose() {
+    if (Selected() == SelectedBefore_)
+        return;
+    SelectedBefore_ = Selected();
+    emit Chosen();
 }
 
 void DriveList::Fill() {

@@ -25,7 +25,7 @@ class DriveList final : public QComboBox {
 
   signals:
     void GotFocus();
-    /// The person chose a drive, which is the selected one now.
+    /// The person chose another drive, which is the selected one now.
     void Chosen();
 
   protected:
@@ -34,8 +34,11 @@ class DriveList final : public QComboBox {
   private:
     void Fill();
 
+    void Choose();
+
     Folders &Disks_;
     std::vector<Drive> Drives_;
+    QString SelectedBefore_; ///< the last one chosen or selected, though it may be gone
 };
 
 } // namespace Quillbox

@@ -97,9 +97,18 @@ void frmMuestraImagenes::PlacePicture(QPoint topLeft) { imgMuestra->move(topLeft
 
 QSize frmMuestraImagenes::PictureSize() const { return imgMuestra->size(); }
 
+int frmMuestraImagenes::DotsPerInch() const { return logicalDpiX(); }
+
+/// Where windows get their size from the system, asking again after every repaint would go on for
+/// ever: a size that was refused is not asked for again until the window has become another one.
 void frmMuestraImagenes::SetSize(QSize withFrame) {
     const QSize frame = frameGeometry().size() - size();
-    resize((withFrame - frame).expandedTo(imgMuestra->size()));
+    const QSize wanted = (withFrame - frame).expandedTo(imgMuestra->size());
+    if (wanted == size() || (wanted == SizeAskedFor_ && size() == SizeWhenAsked_))
+        return;
+    SizeAskedFor_ = wanted;
+    SizeWhenAsked_ = size();
+    resize(wanted);
 }
 
 void frmMuestraImagenes::Unload() { close(); }

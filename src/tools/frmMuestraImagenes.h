@@ -32,6 +32,7 @@ class frmMuestraImagenes final : public QWidget, public ImagePreviewWindow {
     void ShowStatusBar(bool shown) override;
     void PlacePicture(QPoint topLeft) override;
     QSize PictureSize() const override;
+    int DotsPerInch() const override;
     void SetSize(QSize withFrame) override;
     void Unload() override;
 
@@ -55,6 +56,8 @@ class frmMuestraImagenes final : public QWidget, public ImagePreviewWindow {
     const EventBoundary &Boundary_;
     QLabel *imgMuestra;
     QStatusBar *stbStatusBar;
+    QSize SizeAskedFor_;
+    QSize SizeWhenAsked_;
     bool HadFocus_ = false;
     bool Leaving_ = false;
 };

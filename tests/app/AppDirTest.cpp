@@ -17,5 +17,10 @@ TEST(AppDir, DoublesTheSeparatorOfARoot) {
     EXPECT_EQ(AppDirOf(QString(PathSeparator)), QString(PathSeparator) + PathSeparator);
 }
 
+TEST(AppDir, HoldsTheFolderOfTheHelpPages) {
+    EXPECT_EQ(HelpPagePath(AppDirOf("/opt/quillbox"), "buscar.htm"),
+              QString("/opt/quillbox") + PathSeparator + "Ayuda" + PathSeparator + "buscar.htm");
+}
+
 } // namespace
 } // namespace Quillbox

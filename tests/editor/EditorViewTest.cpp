@@ -3,6 +3,7 @@
 
 #include "EditorProgram.h"
 #include "editor/ApplyEditorSettings.h"
+#include "platform/Twips.h"
 
 namespace Quillbox {
 namespace {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "reference/Sources.h"
 
+#include "platform/Windows1252.h"
+
 #include <gmock/gmock.h>
 
 namespace Quillbox {

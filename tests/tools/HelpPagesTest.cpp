@@ -103,6 +103,17 @@ TEST(ShowingAFile, MeasuresLettersInPointsSoThatTheyCanBeZoomed) {
               "p{font-size:10.5pt}b{font-size:9pt}");
 }
 
+TEST(ShowingAFile, MeasuresTheLettersOfStyleElementsToo) {
+    EXPECT_EQ(PageOf("/a/x.htm", "<STYLE>\np{font-size:16px}\n</STYLE><p>font-size:16px"),
+              "<STYLE>\np{font-size:12pt}\n</STYLE><p>font-size:16px");
+}
+
+TEST(ShowingAFile, LeavesTheSizesThatAPageWritesAbout) {
+    const QString page = "<pre title='font-size: 12px'>font-size: 12px\n"
+                         "&lt;p style=\"font-size: 12px\"&gt;</pre>";
+    EXPECT_EQ(PageOf("/a/x.htm", page.toUtf8()), page);
+}
+
 TEST(MissingPage, NamesThePage) {
     EXPECT_TRUE(MissingPage("/a/<b>.htm").contains("<b>/a/&lt;b&gt;.htm</b>"));
 }

@@ -21,8 +21,11 @@ class FakePreviewWindow : public ImagePreviewWindow {
         Log_.Add("preview.PlacePicture", topLeft.x(), topLeft.y());
     }
     QSize PictureSize() const override { return {320, 200}; }
+    int DotsPerInch() const override { return Density; }
     void SetSize(QSize size) override { Log_.Add("preview.SetSize", size.width(), size.height()); }
     void Unload() override { Log_.Add("preview.Unload"); }
+
+    int Density = 96;
 
   private:
     CallLog &Log_;
@@ -46,6 +49,12 @@ TEST_F(ThePicturePreview, HidesTheStatusBarAndFitsItsPictureAtEveryRepaint) {
     Rules.Form_Paint();
     EXPECT_THAT(Log.Calls(), ElementsAre("preview.ShowStatusBar false",
                                          "preview.SetSize 328 227")); // 115 and 400 twips more
+}
+
+TEST_F(ThePicturePreview, AllowsForTheLargerFrameOfADenserScreen) {
+    Window.Density = 144;
+    Rules.Form_Paint();
+    EXPECT_THAT(Log.CallsOf({"preview.SetSize"}), ElementsAre("preview.SetSize 332 240"));
 }
 
 TEST_F(ThePicturePreview, RepaintsWhenItGetsTheFocus) {

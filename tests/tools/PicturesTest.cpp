@@ -128,6 +128,15 @@ TEST(TargaPictures, AreBlackWhereThePaletteHasNoEntry) {
                 ElementsAre(Red, 0xFF000000, White, 0xFF000000));
 }
 
+TEST(TargaPictures, HaveNoPaletteWhenTheySaySoThoughTheyCountItsEntries) {
+    QByteArray color = Targa({.Type = 2, .PaletteCount = 1}, BgrPixels);
+    QByteArray grey =
+        Targa({.Type = 3, .Depth = 8, .PaletteCount = 1}, QByteArray::fromHex("00 80 ff 01"));
+    color[1] = grey[1] = '\0';
+    EXPECT_THAT(ReadTarga(color).Pixels, ElementsAre(Red, Green, Blue, White));
+    EXPECT_THAT(ReadTarga(grey).Pixels, ElementsAre(0xFF000000, 0xFF808080, White, 0xFF010101));
+}
+
 TEST(TargaPictures, HaveFiveBitsOfEachColour) {
     EXPECT_THAT(
         ReadTarga(Targa({.Type = 2, .Depth = 16}, QByteArray::fromHex("007c e003 1f00 ff7f")))

@@ -107,6 +107,25 @@ TEST_F(FindingInAPage, ClosesWithEscapeAndGoesOnFromThePage) {
     EXPECT_EQ(Found(), First);
 }
 
+TEST_F(FindingInAPage, ComesBackFromHiddenToTellThatItGoesOnFromTheStart) {
+    Search("azul");
+    Press(Qt::Key_Escape);
+    Press(Qt::Key_F3);
+    EXPECT_EQ(Found(), Third + 5);
+    EXPECT_TRUE(Bar()->isVisible());
+    EXPECT_EQ(Bar()->y(), Browser.viewport()->geometry().bottom() + 1);
+    EXPECT_EQ(Result(), "Se sigue desde el principio de la página.");
+    EXPECT_EQ(QApplication::focusWidget(), &Browser);
+}
+
+TEST_F(FindingInAPage, ComesBackFromHiddenToTellThatNothingIsFound) {
+    Search("navex");
+    Press(Qt::Key_Escape);
+    Press(Qt::Key_F3);
+    EXPECT_TRUE(Bar()->isVisible());
+    EXPECT_EQ(Result(), "No se encuentra «navex».");
+}
+
 TEST_F(FindingInAPage, AsksForATextWhenThereIsNoneToGoOnWith) {
     Press(Qt::Key_F3);
     EXPECT_TRUE(Bar()->isVisible());

@@ -237,22 +237,31 @@ TEST_F(HelpBrowserTest, MakesEverythingLargerAndSmallerWithTheKeyboard) {
     EXPECT_LT(Height(), before);
 }
 
+void TurnWheel(HelpBrowser &browser, int angle) {
+    QWheelEvent event(QPointF(10, 10), browser.mapToGlobal(QPointF(10, 10)), {}, QPoint(0, angle),
+                      Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(browser.viewport(), &event);
+}
+
 TEST_F(HelpBrowserTest, ZoomsWithTheWheelWithinItsLimits) {
     Show("<p>texto</p>");
-    const auto turn = [&](int delta) {
-        QWheelEvent event(QPointF(10, 10), Browser.mapToGlobal(QPointF(10, 10)), {},
-                          QPoint(0, delta), Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase,
-                          false);
-        QApplication::sendEvent(Browser.viewport(), &event);
-    };
-    turn(120);
+    TurnWheel(Browser, 120);
     EXPECT_EQ(Browser.Zoom(), 1.1);
     for (int i = 0; i < 20; ++i)
-        turn(120);
+        TurnWheel(Browser, 120);
     EXPECT_EQ(Browser.Zoom(), 3);
     for (int i = 0; i < 20; ++i)
-        turn(-120);
+        TurnWheel(Browser, -120);
     EXPECT_EQ(Browser.Zoom(), 0.5);
+}
+
+TEST_F(HelpBrowserTest, AddsUpTheSmallTurnsOfATouchpadToAStepOfZoom) {
+    Show("<p>texto</p>");
+    for (int turn = 0; turn < 7; ++turn)
+        TurnWheel(Browser, 15);
+    EXPECT_EQ(Browser.Zoom(), 1);
+    TurnWheel(Browser, 15);
+    EXPECT_EQ(Browser.Zoom(), 1.1);
 }
 
 TEST_F(HelpBrowserTest, KeepsItsZoomOnTheNextPage) {

@@ -8,6 +8,7 @@
 #include <QListView>
 #include <QScreen>
 #include <QStatusBar>
+#include <QWindow>
 
 namespace Quillbox {
 namespace {
@@ -34,9 +35,16 @@ class PicturePreview : public UiProgram {
         auto *files = Browser->findChild<QListView *>("filArchivos");
         files->setFocus();
         files->setCurrentIndex(files->model()->index(0, 0));
+        const std::size_t said = Questions.Messages.size();
         QTest::keyClick(files, Qt::Key_Space);
-        QTest::qWait(20);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return HasTold(said) || HasSettled(); }));
         return Preview();
+    }
+    bool HasTold(std::size_t before) const { return Questions.Messages.size() > before; }
+    /// The picture has the keyboard and has been fitted.
+    bool HasSettled() {
+        return Preview() && QGuiApplication::focusWindow() == Preview()->windowHandle() &&
+               Preview()->findChild<QStatusBar *>("stbStatusBar")->isHidden();
     }
     frmMuestraImagenes *Preview() { return Find<frmMuestraImagenes>("frmMuestraImagenes"); }
     QString TextOfMessage() {
@@ -68,6 +76,44 @@ TEST_F(PicturePreview, FitsItsPictureAgainAfterItWasResized) {
     const QSize fitting = preview->size();
     preview->resize(900, 700);
     EXPECT_TRUE(QTest::qWaitFor([&] { return preview->size() == fitting; }));
+}
+
+/// A window manager that gives a window its own size whatever it asks for.
+class ImposedSize : public QObject {
+  public:
+    explicit ImposedSize(QWidget *window)
+        : QObject(window)
+        , Window_(window) {
+        window->installEventFilter(this);
+        window->resize(Size_);
+    }
+    int Refused = 0;
+
+  protected:
+    bool eventFilter(QObject *, QEvent *event) override {
+        if (event->type() == QEvent::Resize && Window_->size() != Size_) {
+            ++Refused;
+            QMetaObject::invokeMethod(
+                Window_, [this] { Window_->resize(Size_); }, Qt::QueuedConnection);
+        }
+        return false;
+    }
+
+  private:
+    static constexpr QSize Size_{700, 500};
+    QWidget *Window_;
+};
+
+TEST_F(PicturePreview, AsksOnlyOnceForASizeThatItDoesNotGet) {
+    WritePicture("nave.png", {320, 200});
+    frmMuestraImagenes *preview = ShowFile();
+    const auto *manager = new ImposedSize(preview);
+    for (int times = 0; times < 10; ++times) {
+        preview->repaint();
+        QCoreApplication::processEvents();
+    }
+    EXPECT_EQ(manager->Refused, 1);
+    EXPECT_EQ(preview->size(), QSize(700, 500));
 }
 
 TEST_F(PicturePreview, ShrinksAPictureThatTheScreenCannotHold) {

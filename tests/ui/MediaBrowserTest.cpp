@@ -185,6 +185,15 @@ TEST_F(MediaBrowserWindowTest, OpensTheRootOfAChosenDrive) {
     EXPECT_EQ(Browser->SelectedDrive(), "/media/a");
 }
 
+TEST_F(MediaBrowserWindowTest, StaysInItsFolderWhenTheSameDriveIsChosenAgain) {
+    DrivesShown().setFocus();
+    DrivesShown().showPopup();
+    QTest::keyClick(DrivesShown().view(), Qt::Key_Return);
+    Settle();
+    EXPECT_FALSE(DrivesShown().view()->isVisible());
+    EXPECT_EQ(Browser->FolderPath(), "/juego");
+}
+
 TEST_F(MediaBrowserWindowTest, TellsAnEmptyDriveAndSelectsTheDriveBefore) {
     ChooseDriveBelow();
     ASSERT_EQ(Questions.Messages.size(), 1U);

@@ -4,7 +4,6 @@
 #include "platform/qt/ScintillaEditor.h"
 
 #include <QKeyEvent>
-#include <QWheelEvent>
 
 #include <algorithm>
 
@@ -17,9 +16,6 @@ using Sci = QsciScintillaBase;
 /// In points more or less than the font's own size.
 constexpr int Smallest = -10;
 constexpr int Largest = 40;
-
-/// One notch of a mouse wheel.
-constexpr int Notch = QWheelEvent::DefaultDeltasPerStep;
 
 bool IsControlOnly(Qt::KeyboardModifiers modifiers) {
     // "+" needs Shift on many keyboards.
@@ -66,9 +62,7 @@ bool ScintillaZoom::TakeKey(const QKeyEvent &key) {
 bool ScintillaZoom::TakeWheel(const QWheelEvent &wheel) {
     if (wheel.modifiers() != Qt::ControlModifier)
         return false;
-    Turned_ += wheel.angleDelta().y();
-    ZoomBy(Turned_ / Notch);
-    Turned_ %= Notch;
+    ZoomBy(Notches_.Take(wheel.angleDelta().y()));
     return true;
 }
 

@@ -2,11 +2,11 @@
 #pragma once
 
 #include "platform/qt/ScintillaText.h"
+#include "platform/qt/WheelNotches.h"
 
 #include <QObject>
 
 class QKeyEvent;
-class QWheelEvent;
 
 namespace Quillbox {
 
@@ -26,7 +26,7 @@ class ScintillaZoom final : public QObject {
     void ZoomBy(int points);
 
     ScintillaText Text_;
-    int Turned_ = 0; ///< of the wheel, not yet enough for a step
+    WheelNotches Notches_;
 };
 
 } // namespace Quillbox
