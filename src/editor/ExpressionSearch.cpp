@@ -41,8 +41,13 @@ constexpr QLatin1String WordEdge("(?:(?<!\\w)|(?!\\w))");
 
 ExpressionSearch::ExpressionSearch(QRegularExpression expression,
                                    std::chrono::milliseconds timeLimit)
-    : Expression_(std::move(expression))
-    , Deadline_(std::chrono::steady_clock::now() + timeLimit) {}
+    : Expression_(std::move(expression)) {
+    ExpressionSearch::AllowTime(timeLimit);
+}
+
+void ExpressionSearch::AllowTime(std::chrono::milliseconds timeLimit) {
+    Deadline_ = std::chrono::steady_clock::now() + timeLimit;
+}
 
 std::size_t ExpressionSearch::ReadLine(std::string_view lines, std::size_t start) {
     const std::size_t end = LineEndBehind(lines, start);

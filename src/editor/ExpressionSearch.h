@@ -19,6 +19,7 @@ class ExpressionSearch final : public TextSearch {
     SearchEnd VisitMatches(std::string_view lines, std::size_t from,
                            const MatchVisitor &visit) override;
     Last FindLast(std::string_view lines, std::size_t to, const MatchFilter &accept) override;
+    void AllowTime(std::chrono::milliseconds timeLimit) override;
 
   private:
     enum class LineEnding { GoOn, Stopped, TooCostly };

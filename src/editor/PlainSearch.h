@@ -22,6 +22,8 @@ class PlainSearch final : public TextSearch {
     SearchEnd VisitMatches(std::string_view lines, std::size_t from,
                            const MatchVisitor &visit) override;
     Last FindLast(std::string_view lines, std::size_t to, const MatchFilter &accept) override;
+    /// A plain term is never given up.
+    void AllowTime(std::chrono::milliseconds) override {}
 
   private:
     /// A character of the term: the bytes of each form that counts as the same. All forms have the

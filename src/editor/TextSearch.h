@@ -63,6 +63,9 @@ class TextSearch {
         std::optional<ByteRange> Match;
     };
     virtual Last FindLast(std::string_view lines, std::size_t to, const MatchFilter &accept) = 0;
+
+    /// Replaces the time limit: it counts from now on.
+    virtual void AllowTime(std::chrono::milliseconds timeLimit) = 0;
 };
 
 /// Why a term is no regular expression, in Spanish with the place of the mistake.

@@ -75,7 +75,7 @@ enum class EditorCommand {
     GoToLine = 301,             ///< asks for a line
     GoToMatchingBracket = 302,  ///< of the bracket at the caret
     SelectNextOccurrence = 303, ///< the word at the caret, then also the next text like it
-    FindPrevious = 311,
+    FindPrevious = 304,
 };
 
 /// The operations of one document's editor. Lines and columns are 0-based and count characters;

@@ -122,7 +122,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(Numbered{"SeleccionarTodo", "mnuEdicion_SeleccionarTodo", 137},
                     Numbered{"BuscarReemplazar", "mnuEdicion_BuscarReemplazar", 169},
                     Numbered{"BuscarSiguiente", "mnuEdicion_BuscarSiguiente", 176},
-                    Numbered{"BuscarAnterior", "mnuEdicion_BuscarAnterior", 311},
+                    Numbered{"BuscarAnterior", "mnuEdicion_BuscarAnterior", 304},
                     Numbered{"InsertarEliminarBookmark", "mnuEdicion_InsertarEliminarBookmark",
                              204},
                     Numbered{"BookmarkAnterior", "mnuEdicion_BookmarkAnterior", 205},

@@ -214,6 +214,20 @@ TEST(ExpressionSearch, GivesUpWhenItsTimeIsOver) {
     EXPECT_EQ(search->VisitMatches("b\nb", 0, [](auto &) { return true; }), SearchEnd::TooCostly);
 }
 
+TEST(ExpressionSearch, GoesOnWhenItIsAllowedMoreTime) {
+    MadeSearch made = MakeSearch(Expression("a"), std::chrono::milliseconds(0));
+    const auto &search = std::get<std::unique_ptr<TextSearch>>(made);
+    search->AllowTime(std::chrono::hours(1));
+    EXPECT_EQ(search->VisitMatches("b\nb", 0, [](auto &) { return true; }), SearchEnd::Complete);
+}
+
+TEST(ExpressionSearch, GivesUpAtTheLimitThatWasSetLast) {
+    MadeSearch made = MakeSearch(Expression("a"), std::chrono::hours(1));
+    const auto &search = std::get<std::unique_ptr<TextSearch>>(made);
+    search->AllowTime(std::chrono::milliseconds(0));
+    EXPECT_EQ(search->VisitMatches("b\nb", 0, [](auto &) { return true; }), SearchEnd::TooCostly);
+}
+
 namespace {
 
 /// Text of a few letters, so that terms are found, with line ends of Windows.

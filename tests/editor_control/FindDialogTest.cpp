@@ -3,6 +3,7 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QHideEvent>
 #include <QSet>
 
 namespace Quillbox::Test {
@@ -57,6 +58,27 @@ TEST_F(FindAndReplace, SaysWhenItsEditorIsGone) {
     delete Window.takeCentralWidget();
     Click("cmdSiguiente");
     EXPECT_EQ(Result(), "No hay ningún documento a la vista.");
+}
+
+TEST_F(FindAndReplace, ShowsNeitherNumberNorLimitOfAnEditorThatIsGone) {
+    LoadCode("uno\nuno");
+    SelectCode(At(0, 0), At(1, 1));
+    Look("uno");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return CountShown() == "1 coincidencia"; }));
+    delete Window.takeCentralWidget();
+    EXPECT_EQ(CountShown(), "");
+    EXPECT_FALSE(Child<QCheckBox>("chkSeleccion").isChecked());
+}
+
+TEST_F(FindAndReplace, KeepsLimitAndMarksWhileItIsMinimised) {
+    LoadCode("uno\nuno");
+    SelectCode(At(0, 0), At(1, 1));
+    Look("uno");
+    QHideEvent minimised;
+    QSpontaneKeyEvent::setSpontaneous(&minimised);
+    QCoreApplication::sendEvent(Find.Dialog, &minimised);
+    EXPECT_TRUE(Child<QCheckBox>("chkSeleccion").isChecked());
+    EXPECT_EQ(Marked(), std::vector<std::string>{"uno"});
 }
 
 TEST_F(FindAndReplace, LeavesADocumentAloneThatNobodySees) {

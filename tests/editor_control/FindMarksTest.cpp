@@ -48,13 +48,54 @@ TEST_F(FindAndReplace, MarksFollowEdits) {
 }
 
 TEST_F(FindAndReplace, MarksNoMoreThanOnceWhatIsMarkedAlready) {
-    LoadCode("uno dos");
+    LoadCode("uno dos" + QByteArray("\n").repeated(300));
     Look("uno");
     Paint();
-    QCoreApplication::processEvents();
-    PaintCounter paints(*Code().viewport());
-    QTest::qWait(100);
-    EXPECT_LE(paints.Count, 1) << "each mark asks for another";
+    ScintillaText(Code()).Send(QsciScintillaBase::SCI_SETMODEVENTMASK,
+                               QsciScintillaBase::SC_MOD_CHANGEINDICATOR);
+    QSignalSpy marks(&Code(), &QsciScintillaBase::SCN_MODIFIED);
+    QSignalSpy updates(&Code(), &QsciScintillaBase::SCN_UPDATEUI);
+    Code().SetTopIndex({3});
+    Paint();
+    EXPECT_GT(updates.count(), 0);
+    EXPECT_EQ(marks.count(), 0) << "each mark asks for another";
+}
+
+TEST_F(FindAndReplace, MarksThePartOfAVeryLongLineThatIsInView) {
+    LoadCode(QByteArray("uno ").repeated(200'000));
+    Look("uno");
+    const std::size_t marked = Marked().size();
+    EXPECT_GT(marked, 100U);
+    EXPECT_LT(marked, 100'000U);
+}
+
+TEST_F(FindAndReplace, MarksNoMatchOfAnExpressionInAVeryLongLine) {
+    LoadCode("uno\n" + QByteArray("uno ").repeated(200'000));
+    LookForExpression("un[o]");
+    EXPECT_THAT(Marked(), ElementsAre("uno"));
+}
+
+TEST_F(FindAndReplace, MarksNoPartOfAWordAtItsLimits) {
+    LoadCode("unouno uno");
+    SelectCode(At(0, 3), At(0, 9));
+    Look("uno");
+    Child<QCheckBox>("chkSeleccion").click();
+    EXPECT_THAT(Marked(), ElementsAre("uno"));
+    Tick("chkPalabraCompleta");
+    EXPECT_THAT(Marked(), IsEmpty());
+    SelectCode(At(0, 0), At(0, 3));
+    Child<QCheckBox>("chkSeleccion").click();
+    Child<QCheckBox>("chkSeleccion").click();
+    EXPECT_THAT(Marked(), IsEmpty());
+}
+
+TEST_F(FindAndReplace, MarksInAnotherTextWhatWasTooCostlyInTheOneBefore) {
+    LoadCode("aaa\n" + QByteArray(60, 'a') + "!");
+    LookForExpression("(a+)+$");
+    const std::size_t before = Marked().size();
+    LoadCode("aaa\nb\naaaa");
+    EXPECT_EQ(before, 1U);
+    EXPECT_THAT(Marked(), ElementsAre("aaa", "aaaa"));
 }
 
 TEST_F(FindAndReplace, MarksAreNoChangeOfTheText) {

@@ -24,7 +24,7 @@ TEST_F(FindAndReplace, ReplacesTheMatchAndGoesToTheNext) {
     EXPECT_EQ(Code().GetSel(), Range(At(0, 9), At(0, 12)));
     Click("cmdReemplazar");
     EXPECT_EQ(Code().Text(), "tres dos tres");
-    EXPECT_EQ(Result(), "No quedan más apariciones.");
+    EXPECT_EQ(Result(), "No quedan más coincidencias.");
     Code().Undo();
     EXPECT_EQ(Code().Text(), "tres dos uno");
 }
@@ -35,14 +35,14 @@ TEST_F(FindAndReplace, ReplacesAllInOneUndoStepAndCounts) {
     ReplaceBy("uno uno");
     Click("cmdReemplazarTodo");
     EXPECT_EQ(Code().Text(), "uno uno dos uno uno\nuno uno");
-    EXPECT_EQ(Result(), "Se han reemplazado 3 apariciones.");
+    EXPECT_EQ(Result(), "Se han reemplazado 3 coincidencias.");
     Code().Undo();
     EXPECT_EQ(Code().Text(), "uno dos uno\nuno");
     Look("dos");
     Child<QLineEdit>("txtReemplazar").clear();
     Click("cmdReemplazarTodo");
     EXPECT_EQ(Code().Text(), "uno  uno\nuno");
-    EXPECT_EQ(Result(), "Se ha reemplazado 1 aparición.");
+    EXPECT_EQ(Result(), "Se ha reemplazado 1 coincidencia.");
 }
 
 TEST_F(FindAndReplace, ReplacesWithCharactersThatFilesCanKeep) {
@@ -102,7 +102,7 @@ TEST_F(FindAndReplace, ReplacesEmptyMatchesOneByOne) {
     EXPECT_EQ(Code().GetSel(), Range(At(2, 0), At(2, 0)));
     Click("cmdReemplazarTodo");
     EXPECT_EQ(Code().Text(), "// a\n// // b\n// ");
-    EXPECT_EQ(Result(), "Se han reemplazado 3 apariciones.");
+    EXPECT_EQ(Result(), "Se han reemplazado 3 coincidencias.");
 }
 
 TEST_F(FindAndReplace, LeavesTheCaretAloneThatStandsAtAnEmptyMatch) {
@@ -130,7 +130,7 @@ TEST_F(FindAndReplace, CountsLargeNumbersInThousands) {
     Look("uno");
     ReplaceBy("dos");
     Click("cmdReemplazarTodo");
-    EXPECT_EQ(Result(), "Se han reemplazado 12.345 apariciones.");
+    EXPECT_EQ(Result(), "Se han reemplazado 12.345 coincidencias.");
 }
 
 namespace {
@@ -174,7 +174,7 @@ TEST_F(ReplaceAll, IsOneUndoStep) {
     Click("cmdReemplazarTodo");
     const QString after = QString(before).replace("uno", "cuatro");
     EXPECT_TRUE(Code().Text() == after);
-    EXPECT_EQ(Result(), "Se han reemplazado 40.000 apariciones.");
+    EXPECT_EQ(Result(), "Se han reemplazado 40.000 coincidencias.");
     Code().Undo();
     EXPECT_TRUE(Code().Text() == before);
     EXPECT_FALSE(Code().CanUndo());

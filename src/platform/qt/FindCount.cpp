@@ -15,6 +15,8 @@ using Clock = std::chrono::steady_clock;
 /// Typing goes on while the matches are counted, so a piece takes about this long.
 constexpr std::chrono::milliseconds Slice(8);
 constexpr std::chrono::milliseconds LongestCount(1500);
+/// A costly expression is given up within a piece, so that it cannot hold up typing.
+constexpr std::chrono::milliseconds LongestPiece(100);
 constexpr std::chrono::milliseconds Pause(150);
 constexpr BytePosition PieceSize = 128 * 1024;
 
@@ -54,7 +56,7 @@ void FindCount::CountPiece() {
         return Stop();
     const ScintillaText text(*Editor_);
     if (!Search_) {
-        MadeSearch made = MakeSearch(Task_.Request, std::chrono::hours(1));
+        MadeSearch made = MakeSearch(Task_.Request, LongestPiece);
         if (std::holds_alternative<BadExpression>(made))
             return;
         Search_ = std::move(std::get<std::unique_ptr<TextSearch>>(made));
@@ -63,6 +65,7 @@ void FindCount::CountPiece() {
         Count_ = 0;
         Spent_ = {};
     }
+    Search_->AllowTime(LongestPiece);
     const Clock::time_point start = Clock::now();
     do {
         const BytePosition end = std::min(Next_ + PieceSize, static_cast<BytePosition>(Range_.End));

@@ -8,11 +8,11 @@
 #include "platform/qt/ScintillaReplace.h"
 
 #include <QCheckBox>
+#include <QHideEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QShortcut>
-#include <QSignalBlocker>
 
 namespace Quillbox {
 
@@ -101,6 +101,9 @@ void FindDialog::ShowState(const QString &term) {
 
 void FindDialog::hideEvent(QHideEvent *event) {
     QDialog::hideEvent(event);
+    // Minimised, it is still open.
+    if (event->spontaneous())
+        return;
     EmptyMatch_.reset();
     Target_.Follow(nullptr);
 }

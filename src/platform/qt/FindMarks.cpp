@@ -40,6 +40,29 @@ MovingRange View(const ScintillaText &text) {
     return view;
 }
 
+/// What a plain search has to see of the text: whole words show at the characters beside them.
+TextPiece BytesAround(const ScintillaText &text, const MovingRange &range) {
+    constexpr std::int64_t longestCharacter = 3;
+    const auto start =
+        static_cast<BytePosition>(std::max<std::int64_t>(range.Start - longestCharacter, 0));
+    const auto end = static_cast<BytePosition>(
+        std::min<std::int64_t>(range.End + longestCharacter, text.Length()));
+    return {start, text.Bytes(start, end)};
+}
+
+/// An expression has to see whole lines; those that are too long for that are left out.
+void VisitLines(const ScintillaText &text, const MovingRange &range,
+                const std::function<bool(const TextPiece &)> &visit) {
+    const LineIndex last = text.LineOf(static_cast<BytePosition>(range.End));
+    LineIndex line = text.LineOf(static_cast<BytePosition>(range.Start));
+    for (; line.Value <= last.Value; ++line.Value) {
+        const BytePosition start = text.LineStart(line);
+        const BytePosition end = text.LineEnd(line);
+        if (end - start <= MostBytes && !visit({start, text.Bytes(start, end)}))
+            return;
+    }
+}
+
 } // namespace
 
 void FindMarks::Prepare(const ScintillaText &text) {
@@ -78,26 +101,26 @@ std::vector<MovingRange> FindMarks::MatchesInView(const ScintillaText &text, con
         return matches;
     const MovingRange scope = RangeOf(task, text);
     const MovingRange view = View(text);
-    const std::int64_t from = std::max(view.Start, scope.Start);
-    const std::int64_t to = std::min(view.End, scope.End);
+    const MovingRange looked{std::max(view.Start, scope.Start), std::min(view.End, scope.End)};
     const auto visit = [&](const TextPiece &piece) {
         const auto keep = [&](const TextMatch &match) {
             const MovingRange range{piece.Start + static_cast<std::int64_t>(match.Range.Start),
                                     piece.Start + static_cast<std::int64_t>(match.Range.End)};
-            if (range.End <= to && range.Start < range.End)
+            if (range.End <= looked.End && range.Start < range.End)
                 matches.push_back(range);
-            return range.Start < to;
+            return range.Start < looked.End;
         };
-        const std::int64_t inPiece = std::max<std::int64_t>(from - piece.Start, 0);
+        const std::int64_t inPiece = std::max<std::int64_t>(looked.Start - piece.Start, 0);
         const SearchEnd end =
             (*search)->VisitMatches(piece.Bytes, static_cast<std::size_t>(inPiece), keep);
         if (end == SearchEnd::TooCostly)
             GivenUp_ = task.Request;
         return end == SearchEnd::Complete;
     };
-    if (from <= to)
-        VisitPieces(text, static_cast<BytePosition>(from), static_cast<BytePosition>(to),
-                    PieceOrder::Forward, visit);
+    if (looked.Start <= looked.End && task.Request.IsExpression)
+        VisitLines(text, looked, visit);
+    else if (looked.Start <= looked.End)
+        visit(BytesAround(text, looked));
     return matches;
 }
 

@@ -19,6 +19,8 @@ class FindMarks {
     void Show(const ScintillaText &text, const FindTask &task);
     /// The marks of the text are no longer those that were shown.
     void Forget() { IsShown_ = false; }
+    /// Another text: what took too long in the one before is tried again.
+    void BeginText() { GivenUp_ = {}; }
 
   private:
     std::vector<MovingRange> MatchesInView(const ScintillaText &text, const FindTask &task);

@@ -46,7 +46,7 @@ QString MessageOf(const FindOutcome &outcome, const FindTask &task, FindDirectio
 QString MessageOf(const Replaced &replaced, const FindTask &task) {
     const bool isLast =
         replaced.Selection && replaced.Next.Problem.isEmpty() && !replaced.Next.Match;
-    return isLast ? Translated("No quedan más apariciones.")
+    return isLast ? Translated("No quedan más coincidencias.")
                   : MessageOf(replaced.Next, task, FindDirection::Forward);
 }
 
@@ -56,9 +56,9 @@ QString MessageOf(const ReplacedAll &replaced, const FindTask &task) {
     if (replaced.Count == 0)
         return NotFound(task);
     if (replaced.Count == 1)
-        return Translated("Se ha reemplazado 1 aparición.");
+        return Translated("Se ha reemplazado 1 coincidencia.");
     const QLocale spanish(QLocale::Spanish, QLocale::Spain);
-    return Translated("Se han reemplazado %1 apariciones.")
+    return Translated("Se han reemplazado %1 coincidencias.")
         .arg(spanish.toString(static_cast<qulonglong>(replaced.Count)));
 }
 

@@ -25,6 +25,7 @@ void FindTarget::Follow(QsciScintillaBase *editor) {
     }
     Editor_ = editor;
     LoseScope();
+    Marks_.BeginText();
     if (editor != nullptr) {
         FindMarks::Prepare(ScintillaText(*editor));
         connect(editor, &Sci::SCN_MODIFIED, this,
@@ -32,6 +33,7 @@ void FindTarget::Follow(QsciScintillaBase *editor) {
                     OnModified(position, type, length);
                 });
         connect(editor, &Sci::SCN_UPDATEUI, this, &FindTarget::OnUpdated);
+        connect(editor, &QObject::destroyed, this, &FindTarget::TextReplaced);
         editor->installEventFilter(this);
     }
     LookAgain();
@@ -77,6 +79,7 @@ void FindTarget::LoseScope() {
 
 void FindTarget::TextReplaced() {
     LoseScope();
+    Marks_.BeginText();
     LookAgain();
 }
 

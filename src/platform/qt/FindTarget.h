@@ -24,7 +24,7 @@ class FindTarget final : public QObject {
     void Unlimit();
     const std::optional<MovingRange> &Scope() const { return Scope_; }
 
-    /// The editor shows another text.
+    /// The editor shows another text, or is gone with its text.
     void TextReplaced();
 
     QString CountText() const { return Count_.Text(); }

@@ -19,13 +19,6 @@ ReplacementText ReplacementFor(const FindTask &task, const QString &replacement,
                                      : ReplacementText::AsItStands(bytes);
 }
 
-void ReplaceTarget(const ScintillaText &text, BytePosition start, BytePosition end,
-                   std::string_view bytes) {
-    text.Send(Sci::SCI_SETTARGETRANGE, start, end);
-    text.Send(Sci::SCI_REPLACETARGET, static_cast<std::intptr_t>(bytes.size()),
-              reinterpret_cast<std::intptr_t>(bytes.data()));
-}
-
 /// What takes the place of the selection; nothing when it is no match.
 std::optional<std::string> ReplacementOfSelection(const ScintillaText &text, const FindTask &task,
                                                   const ReplacementText &replacement) {
@@ -79,7 +72,7 @@ void PutIn(const ScintillaText &text, const TextEdits &edits) {
     for (const TextEdit &edit : edits.Edits()) {
         const auto start = static_cast<BytePosition>(edit.Range.Start);
         const auto end = static_cast<BytePosition>(edit.Range.End);
-        ReplaceTarget(text, start + shift, end + shift, edit.Text);
+        text.Replace(start + shift, end + shift, edit.Text);
         shift += static_cast<BytePosition>(edit.Text.size()) - (end - start);
     }
 }
