@@ -33,7 +33,10 @@ void FindTarget::Follow(QsciScintillaBase *editor) {
                     OnModified(position, type, length);
                 });
         connect(editor, &Sci::SCN_UPDATEUI, this, &FindTarget::OnUpdated);
-        connect(editor, &QObject::destroyed, this, &FindTarget::TextReplaced);
+        connect(editor, &QObject::destroyed, this, [this] {
+            Editor_.clear(); // a widget says so before pointers to it are cleared
+            TextReplaced();
+        });
         editor->installEventFilter(this);
     }
     LookAgain();
