@@ -64,7 +64,7 @@ TEST_F(FindAndReplace, ShowsNeitherNumberNorLimitOfAnEditorThatIsGone) {
     LoadCode("uno\nuno");
     SelectCode(At(0, 0), At(1, 1));
     Look("uno");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return CountShown() == "1 coincidencia"; }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return CountShown() == "1 de 1"; }));
     delete Window.takeCentralWidget();
     EXPECT_EQ(CountShown(), "");
     EXPECT_FALSE(Child<QCheckBox>("chkSeleccion").isChecked());
@@ -76,7 +76,7 @@ TEST_F(FindAndReplace, KeepsLimitAndMarksWhileItIsMinimised) {
     Look("uno");
     QHideEvent minimised;
     QSpontaneKeyEvent::setSpontaneous(&minimised);
-    QCoreApplication::sendEvent(Find.Dialog, &minimised);
+    qApp->notify(Find.Dialog, &minimised); // sending it would make it the program's own
     EXPECT_TRUE(Child<QCheckBox>("chkSeleccion").isChecked());
     EXPECT_EQ(Marked(), std::vector<std::string>{"uno"});
 }
