@@ -51,15 +51,17 @@ Desktop::~Desktop() {
     Stop(Display_);
 }
 
-/// The display chooses a free number itself and prints it.
+/// The display chooses a free number itself and prints it. It must not start over when a client
+/// goes that was the only one, as a look at the window manager does that has not come yet.
 bool Desktop::StartDisplay(int scale) {
     const QString screen = QStringLiteral("%1x%2x24")
                                .arg(DisplaySize.width() * scale)
                                .arg(DisplaySize.height() * scale);
     Display_.setStandardErrorFile(QProcess::nullDevice());
-    Display_.start(QStringLiteral("Xvfb"), {QStringLiteral("-displayfd"), QStringLiteral("1"),
-                                            QStringLiteral("-screen"), QStringLiteral("0"), screen,
-                                            QStringLiteral("-nolisten"), QStringLiteral("tcp")});
+    Display_.start(QStringLiteral("Xvfb"),
+                   {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
+                    QStringLiteral("0"), screen, QStringLiteral("-nolisten"), QStringLiteral("tcp"),
+                    QStringLiteral("-noreset")});
     QByteArray number;
     while (!number.contains('\n')) {
         if (!Display_.waitForReadyRead(StartMilliseconds))
