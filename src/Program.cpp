@@ -11,6 +11,16 @@
 #include "tools/frmAcercaDe.h"
 
 namespace Quillbox {
+namespace {
+
+/// Takes commands with their names in UTF-8.
+auto AdderTo(CommandTable &commands) {
+    return [&commands](const char *name, std::function<void()> command) {
+        commands[QString::fromUtf8(name)] = std::move(command);
+    };
+}
+
+} // namespace
 
 Program::Program(const Outside &outside)
     : Outside_(outside)
@@ -60,9 +70,7 @@ void Program::Start() {
 }
 
 void Program::FillCommands() {
-    const auto add = [this](const char *name, std::function<void()> command) {
-        Commands_[QString::fromUtf8(name)] = std::move(command);
-    };
+    const auto add = AdderTo(Commands_);
     add("mnuArchivo_Nuevo", [this] { Documents_.NewDocument(); });
     add("mnuArchivo_Abrir", [this] {
         Documents_.OpenDocument(QString());
@@ -86,9 +94,7 @@ void Program::FillCommands() {
 }
 
 void Program::FillHelpCommands() {
-    const auto add = [this](const char *name, std::function<void()> command) {
-        Commands_[QString::fromUtf8(name)] = std::move(command);
-    };
+    const auto add = AdderTo(Commands_);
     add("mnuAyuda_Acercade", [this] { frmAcercaDe(&Main_).exec(); });
     add("mnuAyuda_Contextual", [this] { HelpCommands_.mnuAyuda_Contextual_Click(); });
     add("mnuAyuda_Inkwell", [this] { Tools_.mnuAyuda_Inkwell_Click(); });
@@ -106,44 +112,36 @@ void Program::FillHelpCommands() {
 }
 
 void Program::FillProjectCommands() {
-    const auto add = [this](const QString &name, void (ProjectCommands::*command)()) {
-        Commands_[name] = [this, command] { (ProjectCommands_.*command)(); };
+    const auto add = AdderTo(Commands_);
+    const auto addRule = [&](const char *name, void (ProjectCommands::*command)()) {
+        add(name, [this, command] { (ProjectCommands_.*command)(); });
     };
-    add(QStringLiteral("mnuArchivo_NuevoProyecto"),
-        &ProjectCommands::mnuArchivo_NuevoProyecto_Click);
-    add(QStringLiteral("mnuArchivo_AbrirProyecto"),
-        &ProjectCommands::mnuArchivo_AbrirProyecto_Click);
-    add(QStringLiteral("mnuArchivo_GuardarProyecto"),
-        &ProjectCommands::mnuArchivo_GuardarProyecto_Click);
-    add(QStringLiteral("mnuArchivo_GuardarProyectoComo"),
-        &ProjectCommands::mnuArchivo_GuardarProyectoComo_Click);
-    add(QStringLiteral("mnuArchivo_CerrarProyecto"),
-        &ProjectCommands::mnuArchivo_CerrarProyecto_Click);
-    Commands_[QStringLiteral("tbEstandar_InformacionProyecto")] = [this] {
-        ShowModeless(ProjectInfoWindow_, ProjectInfo_);
-    };
-    Commands_[QStringLiteral("tbEstandar_TareasPendientes")] = [this] {
-        ShowModeless(ToDoListWindow_, ToDoList_);
-    };
+    addRule("mnuArchivo_NuevoProyecto", &ProjectCommands::mnuArchivo_NuevoProyecto_Click);
+    addRule("mnuArchivo_AbrirProyecto", &ProjectCommands::mnuArchivo_AbrirProyecto_Click);
+    addRule("mnuArchivo_GuardarProyecto", &ProjectCommands::mnuArchivo_GuardarProyecto_Click);
+    addRule("mnuArchivo_GuardarProyectoComo",
+            &ProjectCommands::mnuArchivo_GuardarProyectoComo_Click);
+    addRule("mnuArchivo_CerrarProyecto", &ProjectCommands::mnuArchivo_CerrarProyecto_Click);
+    add("tbEstandar_InformacionProyecto",
+        [this] { ShowModeless(ProjectInfoWindow_, ProjectInfo_); });
+    add("tbEstandar_TareasPendientes", [this] { ShowModeless(ToDoListWindow_, ToDoList_); });
 }
 
 void Program::FillEditCommands() {
+    const auto add = AdderTo(Commands_);
     for (const EditCommand &command : EditCommands())
-        Commands_[QString::fromUtf8(command.Name)] = [this, run = command.Run] {
-            run(CurrentEditor());
-        };
-    Commands_[QStringLiteral("mnuEdicion_AlternarComentarios")] = [this] {
-        ToggleComments(CurrentEditor(), Words_.LanguageDefinition);
-    };
-    Commands_[QStringLiteral("mnuEdicion_InsertarRGB")] = [this] {
+        add(command.Name, [this, run = command.Run] { run(CurrentEditor()); });
+    add("mnuEdicion_AlternarComentarios",
+        [this] { ToggleComments(CurrentEditor(), Words_.LanguageDefinition); });
+    add("mnuEdicion_InsertarRGB", [this] {
         if (Registry_.CurrentIndex > 0)
             ColorInsertion_.mnuEdicion_InsertarRGB_Click(CurrentEditor());
-    };
-    Commands_[QStringLiteral("mnuEdicion_CompletarPalabra")] = [this] {
+    });
+    add("mnuEdicion_CompletarPalabra", [this] {
         const SymbolCounts counts{Main_.Lists().ItemCount(NavigationList::Functions),
                                   Main_.Lists().ItemCount(NavigationList::Types)};
         CurrentEditor().CompleteWord(CollectCompletions(Words_, Registry_.Current(), counts));
-    };
+    });
 }
 
 void Program::FillEvents() {

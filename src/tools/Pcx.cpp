@@ -108,12 +108,9 @@ std::uint32_t PixelAt(const std::vector<unsigned char> &line, const Header &head
 Raster ReadPcx(QByteArrayView data) {
     ByteReader bytes(data);
     const Header header = ReadHeader(bytes);
-    if (bytes.Overrun())
-        return {PictureProblem::Damaged, {}, {}};
-    if (!IsKnown(header))
-        return {PictureProblem::UnknownFormat, {}, {}};
-    if (header.PixelCount() > LargestPicture)
-        return {PictureProblem::TooLarge, {}, {}};
+    if (const auto problem = HeaderProblem(bytes, IsKnown(header), header.PixelCount());
+        problem != PictureProblem::None)
+        return {problem, {}, {}};
     const std::vector<std::uint32_t> palette = ReadPalette(data);
     if (!CanBeWhole(header, bytes) || (header.Planes == 1 && palette.empty()))
         return {PictureProblem::Damaged, {}, {}};

@@ -50,6 +50,15 @@ class ByteReader {
     bool Overrun_ = false;
 };
 
+/// What speaks against a picture before its first pixel is read.
+inline PictureProblem HeaderProblem(const ByteReader &header, bool isKnown, qint64 pixelCount) {
+    if (header.Overrun())
+        return PictureProblem::Damaged;
+    if (!isKnown)
+        return PictureProblem::UnknownFormat;
+    return pixelCount > LargestPicture ? PictureProblem::TooLarge : PictureProblem::None;
+}
+
 /// An opaque colour.
 constexpr std::uint32_t ColorOf(unsigned red, unsigned green, unsigned blue) {
     return 0xFF000000U | red << 16 | green << 8 | blue;

@@ -139,12 +139,9 @@ void PutTopLeftFirst(const Header &header, std::vector<std::uint32_t> &pixels) {
 Raster ReadTarga(QByteArrayView data) {
     ByteReader bytes(data);
     const Header header = ReadHeader(bytes);
-    if (bytes.Overrun())
-        return {PictureProblem::Damaged, {}, {}};
-    if (!IsKnown(header))
-        return {PictureProblem::UnknownFormat, {}, {}};
-    if (header.PixelCount() > LargestPicture)
-        return {PictureProblem::TooLarge, {}, {}};
+    if (const auto problem = HeaderProblem(bytes, IsKnown(header), header.PixelCount());
+        problem != PictureProblem::None)
+        return {problem, {}, {}};
     bytes.Skip(header.IdLength);
     PixelSource source(header, bytes);
     if (header.PixelCount() == 0 || bytes.Overrun() || !CanHoldItsPixels(header, bytes))
