@@ -2,7 +2,7 @@
 #include "Report.h"
 #include "Workbench.h"
 
-#include "platform/AnsiText.h"
+#include "base/AnsiText.h"
 
 #include <algorithm>
 

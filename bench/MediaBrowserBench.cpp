@@ -3,8 +3,8 @@
 #include "Workbench.h"
 
 #include "platform/SystemFolders.h"
-#include "tools/frmFileList.h"
-#include "tools/frmFolderList.h"
+#include "media/ui/frmFileList.h"
+#include "media/ui/frmFolderList.h"
 
 #include <QFile>
 #include <QTemporaryDir>

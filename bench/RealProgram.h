@@ -9,7 +9,7 @@
 #include "platform/SystemFiles.h"
 #include "platform/SystemFolders.h"
 #include "platform/SystemPrograms.h"
-#include "platform/qt/QtEventLoop.h"
+#include "widgets/QtEventLoop.h"
 
 #include <QTemporaryDir>
 

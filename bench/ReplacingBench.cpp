@@ -2,7 +2,7 @@
 #include "Report.h"
 #include "Workbench.h"
 
-#include "platform/qt/ScintillaReplace.h"
+#include "search/ui/ScintillaReplace.h"
 
 #include <cstdio>
 

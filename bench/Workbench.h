@@ -3,10 +3,10 @@
 
 #include "SourceText.h"
 
-#include "platform/Dialogs.h"
-#include "platform/qt/FindDialog.h"
-#include "platform/qt/LanguageCatalogue.h"
-#include "platform/qt/ScintillaEditor.h"
+#include "surfaces/Dialogs.h"
+#include "search/ui/FindDialog.h"
+#include "editor/ui/LanguageCatalogue.h"
+#include "editor/ui/ScintillaEditor.h"
 
 #include <QCoreApplication>
 

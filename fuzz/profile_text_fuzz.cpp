@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A value written into any file is read back, and a second writing changes nothing.
-#include "platform/ProfileText.h"
+#include "base/ProfileText.h"
 
 #include <cstdint>
 #include <cstdlib>

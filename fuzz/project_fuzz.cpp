@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Random bytes as a project file and as packed texts: a saved project is read back as it was and a
 // second saving changes nothing; what was unpacked once comes back after packing.
-#include "platform/AnsiText.h"
-#include "platform/ProfileText.h"
+#include "base/AnsiText.h"
+#include "base/ProfileText.h"
 #include "project/PackedLists.h"
-#include "project/Project.h"
+#include "state/Project.h"
 #include "project/ProjectFile.h"
 
 #include <algorithm>

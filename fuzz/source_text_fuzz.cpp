@@ -2,10 +2,10 @@
 // Random bytes as a source text. Colouring it line by line, or again from any line on, gives the
 // colours that colouring it at once gives; the scanner's tables and lists say the same; and neither
 // takes longer than a second a megabyte.
-#include "app/settings.h"
-#include "documents/DocumentRegistry.h"
-#include "editor/ColouringRules.h"
-#include "editor/SymbolScanner.h"
+#include "state/settings.h"
+#include "state/DocumentRegistry.h"
+#include "language/ColouringRules.h"
+#include "language/SymbolScanner.h"
 #include "fakes/FakeEditor.h"
 #include "fakes/FakeMainWindow.h"
 #include "fakes/FakeSystem.h"

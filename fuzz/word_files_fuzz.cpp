@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Whatever a word file holds, its lines put together again are the file without its line ends.
-#include "platform/AnsiText.h"
-#include "platform/TextItems.h"
+#include "base/AnsiText.h"
+#include "base/TextItems.h"
 
 #include <cstdint>
 #include <cstdlib>

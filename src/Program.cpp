@@ -3,12 +3,12 @@
 
 #include "editor/EditCommands.h"
 #include "editor/LineCommands.h"
-#include "editor/WordCompletion.h"
-#include "platform/EditorControl.h"
-#include "platform/HelpViewer.h"
-#include "project/frmNewProject.h"
-#include "settings_dialog/frmSettings.h"
-#include "tools/frmAcercaDe.h"
+#include "language/WordCompletion.h"
+#include "surfaces/EditorControl.h"
+#include "surfaces/HelpViewer.h"
+#include "project/ui/frmNewProject.h"
+#include "settings/ui/frmSettings.h"
+#include "app/ui/frmAcercaDe.h"
 
 namespace Quillbox {
 namespace {

@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Program.h"
 
-#include "app/AppDir.h"
+#include "base/AppDir.h"
 #include "platform/ProfileFiles.h"
 #include "platform/ProgramFolder.h"
 #include "platform/SystemConsoleProcess.h"
 #include "platform/SystemFiles.h"
 #include "platform/SystemFolders.h"
 #include "platform/SystemPrograms.h"
-#include "platform/qt/PlainButtonStyle.h"
-#include "platform/qt/QtDialogs.h"
-#include "platform/qt/QtEventLoop.h"
-#include "platform/qt/SpanishInterface.h"
-#include "tools/frmLogo.h"
+#include "widgets/PlainButtonStyle.h"
+#include "widgets/QtDialogs.h"
+#include "widgets/QtEventLoop.h"
+#include "widgets/SpanishInterface.h"
+#include "app/ui/frmLogo.h"
 
 #include <QApplication>
 #include <QIcon>

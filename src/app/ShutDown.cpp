@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/ShutDown.h"
 
-#include "app/settings.h"
+#include "state/settings.h"
 #include "documents/DocumentCommands.h"
-#include "documents/DocumentRegistry.h"
-#include "project/Project.h"
+#include "state/DocumentRegistry.h"
+#include "state/Project.h"
 
 namespace Quillbox {
 

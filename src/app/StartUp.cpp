@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/StartUp.h"
 
-#include "app/AppDir.h"
-#include "app/CommandState.h"
-#include "app/WordFiles.h"
-#include "app/settings.h"
-#include "platform/HelpViewer.h"
-#include "platform/LanguageRegistration.h"
-#include "platform/MainWindow.h"
-#include "project/Project.h"
+#include "base/AppDir.h"
+#include "documents/CommandState.h"
+#include "state/WordFiles.h"
+#include "state/settings.h"
+#include "surfaces/HelpViewer.h"
+#include "surfaces/LanguageRegistration.h"
+#include "surfaces/MainWindow.h"
+#include "state/Project.h"
 
 namespace Quillbox {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "editor/SymbolScanner.h"
+#include "language/SymbolScanner.h"
 
 #include <QString>
 

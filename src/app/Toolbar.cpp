@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Toolbar.h"
 
-#include "documents/DocumentRegistry.h"
-#include "project/Project.h"
+#include "state/DocumentRegistry.h"
+#include "state/Project.h"
 
 namespace Quillbox {
 namespace {

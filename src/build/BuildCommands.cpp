@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "build/BuildCommands.h"
 
-#include "app/settings.h"
+#include "state/settings.h"
 #include "build/Compiler.h"
 #include "build/CompilerLog.h"
 #include "documents/DocumentCommands.h"
-#include "documents/DocumentRegistry.h"
+#include "state/DocumentRegistry.h"
 #include "documents/FileNames.h"
-#include "platform/Dialogs.h"
-#include "platform/DocumentWindow.h"
-#include "platform/EditorControl.h"
-#include "platform/MainWindow.h"
-#include "platform/Programs.h"
-#include "platform/ResumeNext.h"
+#include "surfaces/Dialogs.h"
+#include "surfaces/DocumentWindow.h"
+#include "surfaces/EditorControl.h"
+#include "surfaces/MainWindow.h"
+#include "surfaces/Programs.h"
+#include "base/ResumeNext.h"
 
 namespace Quillbox {
 namespace {

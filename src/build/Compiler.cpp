@@ -4,8 +4,8 @@
 #include "build/CompilerLog.h"
 #include "build/modExecCMD.h"
 #include "documents/FileNames.h"
-#include "platform/MainWindow.h"
-#include "platform/ResumeNext.h"
+#include "surfaces/MainWindow.h"
+#include "base/ResumeNext.h"
 
 namespace Quillbox {
 namespace {

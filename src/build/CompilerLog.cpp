@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "build/CompilerLog.h"
 
-#include "app/Numbers.h"
+#include "base/Numbers.h"
 #include "documents/DocumentCommands.h"
-#include "documents/DocumentRegistry.h"
-#include "platform/AnsiText.h"
-#include "platform/Dialogs.h"
-#include "platform/DocumentWindow.h"
-#include "platform/EditorControl.h"
-#include "platform/Files.h"
-#include "platform/Paths.h"
-#include "platform/RuntimeError.h"
-#include "platform/TextItems.h"
+#include "state/DocumentRegistry.h"
+#include "base/AnsiText.h"
+#include "surfaces/Dialogs.h"
+#include "surfaces/DocumentWindow.h"
+#include "surfaces/EditorControl.h"
+#include "surfaces/Files.h"
+#include "base/Paths.h"
+#include "base/RuntimeError.h"
+#include "base/TextItems.h"
 
 #include <algorithm>
 #include <limits>

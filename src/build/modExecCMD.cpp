@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "build/modExecCMD.h"
 
-#include "platform/AnsiText.h"
-#include "platform/ConsoleProcess.h"
-#include "platform/Dialogs.h"
-#include "platform/EventLoop.h"
-#include "platform/Files.h"
+#include "base/AnsiText.h"
+#include "surfaces/ConsoleProcess.h"
+#include "surfaces/Dialogs.h"
+#include "surfaces/EventLoop.h"
+#include "surfaces/Files.h"
 
 namespace Quillbox {
 namespace {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "documents/ActivateDocument.h"
 
-#include "documents/DocumentRegistry.h"
-#include "platform/DocumentWindow.h"
-#include "platform/EditorControl.h"
+#include "state/DocumentRegistry.h"
+#include "surfaces/DocumentWindow.h"
+#include "surfaces/EditorControl.h"
 
 namespace Quillbox {
 

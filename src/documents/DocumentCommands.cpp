@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "documents/DocumentCommands.h"
 
-#include "app/CommandState.h"
+#include "documents/CommandState.h"
 #include "documents/ActivateDocument.h"
-#include "documents/DocumentRegistry.h"
+#include "state/DocumentRegistry.h"
 #include "documents/FileNames.h"
 #include "documents/SyncTabs.h"
-#include "platform/Dialogs.h"
-#include "platform/DocumentWindow.h"
-#include "platform/EditorControl.h"
-#include "platform/MainWindow.h"
-#include "platform/Paths.h"
+#include "surfaces/Dialogs.h"
+#include "surfaces/DocumentWindow.h"
+#include "surfaces/EditorControl.h"
+#include "surfaces/MainWindow.h"
+#include "base/Paths.h"
 
 namespace Quillbox {
 

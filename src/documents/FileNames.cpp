@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "documents/FileNames.h"
 
-#include "platform/Paths.h"
-#include "platform/RuntimeError.h"
+#include "base/Paths.h"
+#include "base/RuntimeError.h"
 
 namespace Quillbox {
 

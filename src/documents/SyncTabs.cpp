@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "documents/SyncTabs.h"
 
-#include "documents/DocumentRegistry.h"
-#include "platform/MainWindow.h"
+#include "state/DocumentRegistry.h"
+#include "surfaces/MainWindow.h"
 
 namespace Quillbox {
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/ApplyEditorSettings.h"
 
-#include "app/settings.h"
-#include "platform/DocumentWindow.h"
-#include "platform/EditorControl.h"
+#include "state/settings.h"
+#include "surfaces/DocumentWindow.h"
+#include "surfaces/EditorControl.h"
 
 namespace Quillbox {
 namespace {

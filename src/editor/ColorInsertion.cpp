@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/ColorInsertion.h"
 
-#include "platform/Dialogs.h"
-#include "platform/EditorControl.h"
+#include "surfaces/Dialogs.h"
+#include "surfaces/EditorControl.h"
 
 #include <QStringList>
 

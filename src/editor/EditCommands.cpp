@@ -2,7 +2,7 @@
 #include "editor/EditCommands.h"
 
 #include "editor/LineCommands.h"
-#include "platform/EditorControl.h"
+#include "surfaces/EditorControl.h"
 
 namespace Quillbox {
 namespace {

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/EditorView.h"
 
-#include "documents/DocumentRegistry.h"
+#include "state/DocumentRegistry.h"
 #include "editor/ApplyEditorSettings.h"
-#include "editor/LanguageDefinition.h"
-#include "editor/QuickHelp.h"
-#include "editor/SymbolScanner.h"
-#include "platform/DocumentWindow.h"
-#include "platform/EditorControl.h"
-#include "platform/EventLoop.h"
-#include "platform/MainWindow.h"
+#include "state/LanguageDefinition.h"
+#include "language/QuickHelp.h"
+#include "language/SymbolScanner.h"
+#include "surfaces/DocumentWindow.h"
+#include "surfaces/EditorControl.h"
+#include "surfaces/EventLoop.h"
+#include "surfaces/MainWindow.h"
 
 namespace Quillbox {
 namespace {

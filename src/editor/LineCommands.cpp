@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/LineCommands.h"
 
-#include "editor/LanguageDefinition.h"
-#include "platform/EditorControl.h"
+#include "state/LanguageDefinition.h"
+#include "surfaces/EditorControl.h"
 
 namespace Quillbox {
 namespace {

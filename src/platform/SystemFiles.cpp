@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/SystemFiles.h"
 
-#include "platform/Paths.h"
+#include "base/Paths.h"
 #include "platform/SaveFile.h"
 
 #include <QFile>

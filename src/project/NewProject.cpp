@@ -2,8 +2,8 @@
 #include "project/NewProject.h"
 
 #include "documents/FileNames.h"
-#include "platform/Dialogs.h"
-#include "project/Project.h"
+#include "surfaces/Dialogs.h"
+#include "state/Project.h"
 #include "project/ProjectFile.h"
 
 namespace Quillbox {

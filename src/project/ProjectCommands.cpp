@@ -3,10 +3,10 @@
 
 #include "build/modExecCMD.h"
 #include "documents/DocumentCommands.h"
-#include "platform/Dialogs.h"
-#include "platform/MainWindow.h"
-#include "platform/ResumeNext.h"
-#include "project/Project.h"
+#include "surfaces/Dialogs.h"
+#include "surfaces/MainWindow.h"
+#include "base/ResumeNext.h"
+#include "state/Project.h"
 #include "project/ProjectFile.h"
 
 namespace Quillbox {

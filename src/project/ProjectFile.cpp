@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "project/ProjectFile.h"
 
-#include "project/Project.h"
+#include "state/Project.h"
 
 namespace Quillbox {
 namespace {

@@ -3,11 +3,11 @@
 
 #include "build/modExecCMD.h"
 #include "documents/DocumentCommands.h"
-#include "platform/Dialogs.h"
-#include "platform/EventLoop.h"
-#include "platform/MainWindow.h"
+#include "surfaces/Dialogs.h"
+#include "surfaces/EventLoop.h"
+#include "surfaces/MainWindow.h"
 #include "project/PackedLists.h"
-#include "project/Project.h"
+#include "state/Project.h"
 
 namespace Quillbox {
 namespace {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "project/ToDoList.h"
 
-#include "platform/Dialogs.h"
-#include "project/Project.h"
+#include "surfaces/Dialogs.h"
+#include "state/Project.h"
 
 namespace Quillbox {
 namespace {

@@ -2,7 +2,7 @@
 #include "app/ShutDown.h"
 
 #include "fakes/FakeProgram.h"
-#include "project/Project.h"
+#include "state/Project.h"
 
 #include <gmock/gmock.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tools/Splash.h"
+#include "app/Splash.h"
 
 #include "fakes/ErrorNumber.h"
 #include "fakes/FakeSystem.h"

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/StartUp.h"
 
-#include "app/WordFiles.h"
+#include "state/WordFiles.h"
 #include "fakes/ErrorNumber.h"
 #include "fakes/FakeProgram.h"
-#include "platform/Paths.h"
+#include "base/Paths.h"
 
 #include <gmock/gmock.h>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Toolbar.h"
 
-#include "documents/DocumentRegistry.h"
+#include "state/DocumentRegistry.h"
 #include "fakes/CallLog.h"
-#include "project/Project.h"
+#include "state/Project.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -6,7 +6,7 @@
 #include "build/CompilerLog.h"
 #include "fakes/ErrorNumber.h"
 #include "fakes/FakeProgram.h"
-#include "platform/Paths.h"
+#include "base/Paths.h"
 
 #include <gmock/gmock.h>
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "checker/TestFiles.h"
+#include "fakes/SourceTree.h"
 
 #include <gtest/gtest.h>
 #include <sstream>
@@ -46,7 +47,7 @@ TEST(Examples, PassExceptTheOneWithAMistake) {
 }
 
 TEST(Examples, ShowOneMistakeBeforeTheLastLine) {
-    const std::string source = ReadBytes(std::filesystem::path(EXAMPLES_DIR) / WithMistake);
+    const std::string source = ReadBytes(SourceTree() / "examples" / WithMistake);
     EXPECT_EQ(Shown(FindStructureMistake(source)),
               "28: \"Wend\" no cierra el \"If\" de la línea 11");
 }

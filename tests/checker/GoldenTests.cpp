@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "checker/TestFiles.h"
+#include "fakes/SourceTree.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -8,9 +9,11 @@ namespace Quillbox {
 
 namespace {
 
+std::filesystem::path GoldenFolder() { return SourceTree() / "tests/data/checker"; }
+
 std::vector<std::string> GoldenCases() {
     std::vector<std::string> names;
-    for (const auto &entry : std::filesystem::directory_iterator(CHECKER_DATA_DIR))
+    for (const auto &entry : std::filesystem::directory_iterator(GoldenFolder()))
         if (entry.is_directory())
             names.push_back(entry.path().filename().string());
     std::ranges::sort(names);
@@ -22,7 +25,7 @@ class GoldenProgram : public testing::TestWithParam<std::string> {};
 } // namespace
 
 TEST_P(GoldenProgram, HasTheExpectedFirstMistake) {
-    const std::filesystem::path folder = std::filesystem::path(CHECKER_DATA_DIR) / GetParam();
+    const std::filesystem::path folder = GoldenFolder() / GetParam();
     const std::string source = ReadBytes(folder / "source.bb");
     EXPECT_EQ(Shown(FindStructureMistake(source)) + "\n", ReadBytes(folder / "expected.txt"));
 }

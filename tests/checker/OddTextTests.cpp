@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "checker/TestFiles.h"
+#include "fakes/SourceTree.h"
 #include "checker/Tokenizer.h"
 
 #include <gtest/gtest.h>
@@ -28,7 +29,7 @@ void ExpectASensibleAnswer(std::string_view source) {
 }
 
 std::string WholeGame() {
-    return ReadBytes(std::filesystem::path(CHECKER_DATA_DIR) / "correct_game/source.bb");
+    return ReadBytes(SourceTree() / "tests/data/checker/correct_game/source.bb");
 }
 
 } // namespace

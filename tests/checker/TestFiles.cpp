@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "checker/TestFiles.h"
 
+#include "fakes/SourceTree.h"
+
 #include <algorithm>
 #include <fstream>
 #include <iterator>
@@ -18,7 +20,7 @@ void WriteBytes(const std::filesystem::path &path, std::string_view bytes) {
 
 std::vector<std::filesystem::path> ExamplePrograms() {
     std::vector<std::filesystem::path> programs;
-    for (const auto &entry : std::filesystem::directory_iterator(EXAMPLES_DIR))
+    for (const auto &entry : std::filesystem::directory_iterator(SourceTree() / "examples"))
         if (entry.path().extension() == ".prg")
             programs.push_back(entry.path());
     std::ranges::sort(programs);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "fakes/SourceTree.h"
+
 #include <QByteArray>
 #include <QFile>
 #include <QString>
@@ -11,7 +13,7 @@
 namespace Quillbox {
 
 inline QString DataPath(const QString &relative) {
-    return QStringLiteral(QUILLBOX_DATA_DIR "/") + relative;
+    return QString::fromStdString(SourceTree() / "data/") + relative;
 }
 
 /// The bytes of a file of the data folder. Throws std::runtime_error if it cannot be read, so that

@@ -3,7 +3,7 @@
 
 #include "fakes/CallLog.h"
 #include "fakes/ErrorNumber.h"
-#include "platform/Paths.h"
+#include "base/Paths.h"
 
 #include <gtest/gtest.h>
 

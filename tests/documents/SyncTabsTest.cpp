@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "documents/SyncTabs.h"
 
-#include "documents/DocumentRegistry.h"
+#include "state/DocumentRegistry.h"
 #include "fakes/FakeMainWindow.h"
 
 #include <gmock/gmock.h>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/WordFiles.h"
+#include "state/WordFiles.h"
 #include "editor/EditorView.h"
-#include "editor/QuickHelp.h"
-#include "editor/SymbolLists.h"
-#include "editor/SymbolScanner.h"
+#include "language/QuickHelp.h"
+#include "language/SymbolLists.h"
+#include "language/SymbolScanner.h"
 #include "fakes/FakeProgram.h"
 
 #include <gmock/gmock.h>

@@ -3,7 +3,7 @@
 
 #include "EditorProgram.h"
 #include "editor/ApplyEditorSettings.h"
-#include "platform/Twips.h"
+#include "base/Twips.h"
 
 namespace Quillbox {
 namespace {

@@ -2,7 +2,7 @@
 #include "editor/LineCommands.h"
 
 #include "editor/EditCommands.h"
-#include "editor/LanguageDefinition.h"
+#include "state/LanguageDefinition.h"
 #include "fakes/FakeEditor.h"
 
 #include <gmock/gmock.h>

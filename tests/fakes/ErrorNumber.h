@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/RuntimeError.h"
+#include "base/RuntimeError.h"
 
 #include <utility>
 

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "fakes/CallLog.h"
-#include "platform/DocumentWindow.h"
-#include "platform/EditorControl.h"
-#include "platform/RuntimeError.h"
+#include "surfaces/DocumentWindow.h"
+#include "surfaces/EditorControl.h"
+#include "base/RuntimeError.h"
 
 #include <QStringList>
 

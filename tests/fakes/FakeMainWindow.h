@@ -3,8 +3,8 @@
 
 #include "fakes/CallLog.h"
 #include "fakes/FakeEditor.h"
-#include "platform/HelpViewer.h"
-#include "platform/MainWindow.h"
+#include "surfaces/HelpViewer.h"
+#include "surfaces/MainWindow.h"
 
 #include <functional>
 #include <memory>

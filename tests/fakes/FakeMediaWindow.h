@@ -2,8 +2,8 @@
 #pragma once
 
 #include "fakes/CallLog.h"
-#include "platform/MediaBrowserWindow.h"
-#include "platform/RuntimeError.h"
+#include "media/MediaBrowserWindow.h"
+#include "base/RuntimeError.h"
 
 #include <functional>
 #include <optional>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/CommandState.h"
-#include "app/Navigation.h"
-#include "app/settings.h"
+#include "documents/CommandState.h"
+#include "documents/Navigation.h"
+#include "state/settings.h"
 #include "documents/DocumentCommands.h"
-#include "documents/DocumentRegistry.h"
+#include "state/DocumentRegistry.h"
 #include "fakes/FakeMainWindow.h"
 #include "fakes/FakeSystem.h"
 

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "editor/LanguageDefinition.h"
+#include "state/LanguageDefinition.h"
 #include "fakes/CallLog.h"
-#include "platform/ConsoleProcess.h"
-#include "platform/Dialogs.h"
-#include "platform/EventLoop.h"
-#include "platform/Files.h"
-#include "platform/LanguageRegistration.h"
-#include "platform/PrivateProfile.h"
-#include "platform/Programs.h"
-#include "platform/RuntimeError.h"
+#include "surfaces/ConsoleProcess.h"
+#include "surfaces/Dialogs.h"
+#include "surfaces/EventLoop.h"
+#include "surfaces/Files.h"
+#include "surfaces/LanguageRegistration.h"
+#include "surfaces/PrivateProfile.h"
+#include "surfaces/Programs.h"
+#include "base/RuntimeError.h"
 
 #include <deque>
 #include <functional>

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/AnsiText.h"
+#include "base/AnsiText.h"
+#include "fakes/SourceTree.h"
 
 #include <QString>
 
@@ -17,7 +18,7 @@
 namespace Quillbox {
 
 inline std::filesystem::path GoldenFolder(const std::string &room) {
-    return std::filesystem::path(QUILLBOX_TEST_DATA_DIR) / room;
+    return SourceTree() / "tests/data" / room;
 }
 
 /// The names of the folders with cases of a room, sorted.

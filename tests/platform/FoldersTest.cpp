@@ -3,7 +3,7 @@
 #include "fakes/ErrorNumber.h"
 #include "platform/SystemFolders.h"
 #include "platform/TestFiles.h"
-#include "platform/posix/MountedDrives.h"
+#include "platform/linux/MountedDrives.h"
 
 #include <gmock/gmock.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/SaveFile.h"
 #include "platform/TestFiles.h"
-#include "platform/posix/SystemCalls.h"
+#include "platform/linux/SystemCalls.h"
 
 #include <cerrno>
 #include <vector>

@@ -2,9 +2,10 @@
 // The projects among the examples, as they are delivered.
 #include "fakes/CallLog.h"
 #include "fakes/GoldenCases.h"
+#include "fakes/SourceTree.h"
 #include "platform/ProfileFiles.h"
 #include "project/PackedLists.h"
-#include "project/Project.h"
+#include "state/Project.h"
 #include "project/ProjectFile.h"
 
 #include <gmock/gmock.h>
@@ -13,7 +14,7 @@ namespace Quillbox {
 namespace {
 
 /// The folder that holds the folder examples, from which the paths in the projects count.
-const std::filesystem::path Start = std::filesystem::path(QUILLBOX_TEST_DATA_DIR) / "../..";
+const std::filesystem::path Start = SourceTree();
 
 class ExampleProject : public testing::TestWithParam<const char *> {
   protected:

@@ -7,7 +7,7 @@
 #include "fakes/GoldenCases.h"
 #include "platform/ProfileFiles.h"
 #include "project/PackedLists.h"
-#include "project/Project.h"
+#include "state/Project.h"
 #include "project/ProjectFile.h"
 
 #include <QTemporaryDir>

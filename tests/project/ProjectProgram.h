@@ -2,7 +2,7 @@
 #pragma once
 
 #include "fakes/FakeProgram.h"
-#include "project/Project.h"
+#include "state/Project.h"
 #include "project/ProjectCommands.h"
 
 #include <gmock/gmock.h>

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "checker/StructureMistake.h"
+#include "fakes/SourceTree.h"
 #include "reference/Sources.h"
 
 #include <QFile>
@@ -9,7 +10,7 @@ namespace Quillbox {
 namespace {
 
 std::vector<Theme> DeliveredThemes() {
-    QFile file(QStringLiteral(QUILLBOX_DATA_DIR "/Reference/Themes.txt"));
+    QFile file(QString::fromStdString(SourceTree() / "data/Reference/Themes.txt"));
     EXPECT_TRUE(file.open(QIODevice::ReadOnly));
     QStringList problems;
     auto themes = ReadThemes(QString::fromUtf8(file.readAll()), problems);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/AnsiText.h"
-#include "platform/Windows1252.h"
+#include "base/AnsiText.h"
+#include "base/Windows1252.h"
 #include "platform/windows/WindowsApi.h"
 
 namespace Quillbox {

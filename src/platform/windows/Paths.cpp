@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/Paths.h"
+#include "base/Paths.h"
 
 namespace Quillbox {
 

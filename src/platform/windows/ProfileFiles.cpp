@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/ProfileFiles.h"
 
-#include "platform/AnsiText.h"
+#include "base/AnsiText.h"
 #include "platform/windows/WindowsApi.h"
 
 #include <QFileInfo>

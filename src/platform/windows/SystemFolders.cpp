@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/SystemFolders.h"
 
-#include "platform/RuntimeError.h"
+#include "base/RuntimeError.h"
 #include "platform/windows/WindowsApi.h"
 
 #include <QFileInfo>

@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "documents/ui/frmDoc.h"
+
+#include "documents/ui/frmMainArea.h"
+#include "state/DocumentRegistry.h"
+#include "base/Twips.h"
+#include "widgets/EventBoundary.h"
+#include "editor/ui/ScintillaEditor.h"
+
+#include <QCloseEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QStatusBar>
+
+namespace Quillbox {
+namespace {
+
+/// Texts and minimum widths of the panels at creation, widths in average characters. Panel 1 takes
+/// what the others leave; panels 4 to 8 keep what they have here.
+struct PanelDesign {
+    const char *Text;
+    int Characters;
+};
+
+constexpr PanelDesign Panels[] = {{"", 0},      {"Modificado", 12}, {"1 :1", 14}, {"Blitz3D", 9},
+                                  {"ANSI", 7},  {"", 0},            {"", 0},      {"", 0}};
+
+constexpr int PanelIndent = 6;
+
+/// A child window's own menu would claim Ctrl+W, too, and a shortcut with two owners does nothing.
+/// The File menu keeps it; the frame gets the key that closes child windows everywhere else.
+void LeaveCtrlWToFileMenu(QMenu &frameMenu) {
+    for (QAction *action : frameMenu.actions())
+        if (!action->shortcuts().isEmpty())
+            action->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_F4));
+}
+
+} // namespace
+
+frmDoc::frmDoc(const DocumentWindowParts &parts)
+    : Parts_(parts)
+    , View_(*this, Parts_.View)
+    , Client_(new QWidget(this))
+    , txtCode(new ScintillaEditor(parts.Languages, parts.Find, parts.Messages, Client_))
+    , stbBarraEstado(new QStatusBar(Client_)) {
+    setObjectName(QStringLiteral("frmDoc"));
+    setWindowTitle(UntitledName);
+    txtCode->setObjectName(QStringLiteral("txtCode"));
+    BuildStatusBar();
+    setWidget(Client_);
+    LeaveCtrlWToFileMenu(*systemMenu());
+    setFocusProxy(txtCode);
+    Client_->setFocusProxy(txtCode);
+    Client_->installEventFilter(this);
+    ConnectEditor();
+    Parts_.Area.Add(this);
+    View_.Form_Load();
+}
+
+EditorControl &frmDoc::Editor() { return *txtCode; }
+
+QString frmDoc::Caption() const { return windowTitle(); }
+
+void frmDoc::SetCaption(const QString &caption) { setWindowTitle(caption); }
+
+/// Comes into view when its tab is selected, which follows at once. Shown before, it would be painted
+/// and its text scanned in a size that it loses in the next moment.
+void frmDoc::Show() {}
+
+void frmDoc::Activate() {
+    Parts_.Area.Activate(this);
+    Client_->update();
+}
+
+void frmDoc::Maximize() {
+    if (!isMaximized())
+        showMaximized();
+}
+
+void frmDoc::Close() {
+    Parts_.Area.Remove(this);
+    deleteLater();
+}
+
+void frmDoc::SetPanelText(StatusPanel panel, const QString &text) {
+    PanelAt(panel).setText(text);
+    PanelAt(panel).setToolTip(text);
+}
+
+void frmDoc::EnablePanel(StatusPanel panel, bool enabled) { PanelAt(panel).setEnabled(enabled); }
+
+bool frmDoc::eventFilter(QObject *watched, QEvent *event) {
+    if (watched == Client_ && event->type() == QEvent::Resize)
+        LayOut();
+    if (watched == Client_ && event->type() == QEvent::Paint)
+        Parts_.Boundary.Run([this] { View_.Form_Paint(); });
+    return QMdiSubWindow::eventFilter(watched, event);
+}
+
+/// The close box asks the same question as the menu; only Close() makes the window go.
+void frmDoc::closeEvent(QCloseEvent *event) {
+    event->ignore();
+    Parts_.Boundary.Run(Parts_.CloseRequested);
+}
+
+void frmDoc::BuildStatusBar() {
+    stbBarraEstado->setObjectName(QStringLiteral("stbBarraEstado"));
+    stbBarraEstado->setSizeGripEnabled(false);
+    // Opaque, so that a changed panel repaints itself and not the window beneath it.
+    stbBarraEstado->setAutoFillBackground(true);
+    const int characterWidth = stbBarraEstado->fontMetrics().averageCharWidth();
+    for (std::size_t index = 0; index < PanelCount; ++index) {
+        auto *panel = new QLabel(QString::fromUtf8(Panels[index].Text));
+        panel->setObjectName(QStringLiteral("stbBarraEstado_Panel%1").arg(index + 1));
+        panel->setTextFormat(Qt::PlainText);
+        panel->setIndent(PanelIndent);
+        panel->setMinimumWidth(Panels[index].Characters * characterWidth);
+        stbBarraEstado->addWidget(panel, index == 0 ? 1 : 0);
+        panel->setHidden(index > 0 && Panels[index].Characters == 0);
+        Panels_[index] = panel;
+    }
+    EnablePanel(StatusPanel::Modified, false);
+}
+
+void frmDoc::ConnectEditor() {
+    const auto forward = [this](auto signal, auto handler) {
+        connect(txtCode, signal, this,
+                [this, handler] { Parts_.Boundary.Run([&] { (View_.*handler)(); }); });
+    };
+    forward(&ScintillaEditor::TextChanged, &EditorView::txtCode_Change);
+    forward(&ScintillaEditor::ModifiedChanged, &EditorView::txtCode_ModifiedChanged);
+    forward(&ScintillaEditor::KeyDown, &EditorView::txtCode_KeyDown);
+    forward(&ScintillaEditor::MouseReleased, &EditorView::txtCode_MouseUp);
+    forward(&ScintillaEditor::ContextMenuRequested, &EditorView::txtCode_RClick);
+    forward(&ScintillaEditor::FocusReceived, &EditorView::txtCode_GotFocus);
+    connect(txtCode, &ScintillaEditor::KeyUp, this, [this](int keyCode) {
+        Parts_.Boundary.Run([&] { View_.txtCode_KeyUp(keyCode); });
+    });
+    txtCode->CharacterTyped = [this](int code) {
+        bool used = false;
+        Parts_.Boundary.Run([&] { used = View_.txtCode_KeyPress(code); });
+        return used;
+    };
+}
+
+void frmDoc::LayOut() {
+    const int frame = PixelsOfTwips(FrameWidthTwips, logicalDpiX());
+    const int barHeight = stbBarraEstado->sizeHint().height();
+    const int barTop = Client_->height() - barHeight;
+    int otherPanels = 0;
+    for (std::size_t index = 1; index < PanelCount; ++index)
+        otherPanels += Panels_[index]->isVisibleTo(stbBarraEstado)
+                           ? Panels_[index]->minimumWidth() + stbBarraEstado->layout()->spacing()
+                           : 0;
+    // The window's width counts with its frame, which lies around the client area.
+    const DocumentLayout layout =
+        LayOutDocument(Client_->width() + frame, barTop, frame, otherPanels + frame);
+    txtCode->setGeometry(0, 0, layout.EditorWidth, layout.EditorHeight);
+    Panels_[0]->setMinimumWidth(qMax(0, layout.FirstPanelMinimumWidth));
+    stbBarraEstado->setGeometry(0, barTop, Client_->width(), barHeight);
+}
+
+QLabel &frmDoc::PanelAt(StatusPanel panel) {
+    return *Panels_.at(static_cast<std::size_t>(panel) - 1);
+}
+
+} // namespace Quillbox

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "media/ImagePreview.h"
+
+#include "media/ImagePreviewWindow.h"
+#include "surfaces/MainWindow.h"
+#include "base/Twips.h"
+
+#include <algorithm>
+
+namespace Quillbox {
+namespace {
+
+/// What frame and title bar take of the window's height.
+constexpr int FrameHeightTwips = 400;
+
+QSize FrameAllowance(int dotsPerInch) {
+    return {PixelsOfTwips(FrameWidthTwips, dotsPerInch),
+            PixelsOfTwips(FrameHeightTwips, dotsPerInch)};
+}
+
+/// A picture that is smaller than this in both directions is enlarged.
+constexpr int SmallestSide = 64;
+constexpr int LargestFactor = 16;
+
+} // namespace
+
+QSize ShownSize(QSize picture, QSize room) {
+    const int side = std::max({picture.width(), picture.height(), 1});
+    if (side < SmallestSide)
+        return picture * std::min(2 * SmallestSide / side, LargestFactor);
+    if (picture.width() <= room.width() && picture.height() <= room.height())
+        return picture;
+    return picture.scaled(room, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+}
+
+ImagePreview::ImagePreview(ImagePreviewWindow &window, MainWindow &main)
+    : Window_(window)
+    , Main_(main) {}
+
+void ImagePreview::Form_Load() {
+    Window_.ShowStatusBar(true);
+    Window_.PlacePicture(QPoint(0, 0));
+}
+
+void ImagePreview::Form_Paint() {
+    Window_.ShowStatusBar(false);
+    Window_.SetSize(Window_.PictureSize() + FrameAllowance(Window_.DotsPerInch()));
+}
+
+void ImagePreview::Form_GotFocus() { Form_Paint(); }
+
+void ImagePreview::LostFocus() {
+    Main_.Activate();
+    Window_.Unload();
+}
+
+} // namespace Quillbox

@@ -1,0 +1,211 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "settings/SettingsDialog.h"
+
+#include "base/AppDir.h"
+#include "documents/Navigation.h"
+#include "base/Numbers.h"
+#include "state/settings.h"
+#include "state/DocumentRegistry.h"
+#include "state/LanguageDefinition.h"
+#include "surfaces/DocumentWindow.h"
+#include "surfaces/EditorControl.h"
+#include "surfaces/EventLoop.h"
+#include "surfaces/LanguageRegistration.h"
+#include "surfaces/Programs.h"
+#include "base/ResumeNext.h"
+#include "settings/SettingsWindow.h"
+
+namespace Quillbox {
+namespace {
+
+constexpr int LowestTabSize = 1;
+constexpr int HighestTabSize = 255;
+
+/// What a chooser answers; one that fails counts as cancelled.
+template <typename Show>
+auto AnswerOf(Show show) {
+    decltype(show()) answer;
+    ResumeNext().Try([&] { answer = show(); });
+    return answer;
+}
+
+/// The folder of the language tools: as many characters are cut as "FXC.exe" has, whatever the
+/// compiler is called.
+QString ToolsFolderOf(const QString &compilerPath) {
+    constexpr qsizetype fileNameLength = 7;
+    if (compilerPath.size() < fileNameLength)
+        throw InvalidArgument();
+    return compilerPath.chopped(fileNameLength);
+}
+
+} // namespace
+
+SettingsDialog::SettingsDialog(SettingsWindow &window, const SettingsDialogParts &parts)
+    : Window_(window)
+    , Parts_(parts) {}
+
+void SettingsDialog::Form_Load() {
+    LoadColors(ItemAttributes_, Parts_.Options);
+    LoadStyles(ItemAttributes_, Parts_.Options);
+    ShowSettings();
+}
+
+void SettingsDialog::ShowSettings() {
+    const Settings &settings = Parts_.Options;
+    Window_.SetText(SettingsText::CompilerPath, settings.FenixCPath);
+    Window_.SetText(SettingsText::HelpPath, settings.HelpPath);
+    Window_.SetChecked(SettingsCheck::ColorSyntax, settings.ColorSyntax);
+    Window_.SetText(SettingsText::TabSize, QString::number(settings.TabSize));
+    Window_.SetChecked(SettingsCheck::LineNumbers, settings.LineNumbers);
+    Window_.SetChecked(SettingsCheck::Functions, settings.ShowFunctions);
+    Window_.SetChecked(SettingsCheck::Labels, settings.ShowLabels);
+    Window_.SetChecked(SettingsCheck::Types, settings.ShowTypes);
+    Window_.SetChecked(SettingsCheck::QuickHelp, settings.ShowQuickHelp);
+    Window_.SetTabSpinner(settings.TabSize);
+    Window_.SelectItem(0);
+    ShowItemColor();
+    Font_ = {settings.Font, static_cast<double>(settings.FontSize)};
+    ShowFontSample();
+}
+
+/// The labels' and types' boxes are stored after the scan, which therefore still goes by their
+/// previous values; the next scan goes by the new ones.
+void SettingsDialog::StoreSettings() {
+    Settings &settings = Parts_.Options;
+    settings.FenixCPath = Window_.Text(SettingsText::CompilerPath);
+    settings.HelpPath = Window_.Text(SettingsText::HelpPath);
+    settings.MainPath = ToolsFolderOf(settings.FenixCPath);
+    settings.ColorSyntax = Window_.IsChecked(SettingsCheck::ColorSyntax);
+    settings.TabSize = ToByte(TabSizeNumber());
+    settings.LineNumbers = Window_.IsChecked(SettingsCheck::LineNumbers);
+    settings.ShowQuickHelp = Window_.IsChecked(SettingsCheck::QuickHelp);
+    settings.ShowFunctions = Window_.IsChecked(SettingsCheck::Functions);
+    RefreshSymbols();
+    settings.ShowLabels = Window_.IsChecked(SettingsCheck::Labels);
+    settings.ShowTypes = Window_.IsChecked(SettingsCheck::Types);
+    SaveColors(ItemAttributes_, settings);
+    SaveStyles(ItemAttributes_, settings);
+    settings.Font = Font_.Name;
+    settings.FontSize = ToByte(Font_.Size);
+}
+
+void SettingsDialog::RefreshSymbols() {
+    const SymbolParts &symbols = Parts_.Symbols;
+    if (Parts_.Options.ShowFunctions)
+        return symbols.Scanner.ScanSymbols();
+    LanguageDefinition &definition = symbols.Language.Definition;
+    definition.UserWords.clear();
+    symbols.Language.Registration.RegisterLanguage(LanguageName, definition);
+    ClearNavigationLists(symbols.Lists);
+}
+
+void SettingsDialog::lstItems_Click() {
+    ShowItemColor();
+    ShowItemStyle();
+}
+
+void SettingsDialog::ShowItemColor() {
+    Window_.SetSample(SelectedAttribute().Color);
+    Window_.EnableStyles(Window_.SelectedItem() != BackgroundRow);
+}
+
+void SettingsDialog::ShowItemStyle() { Window_.SelectStyle(SelectedAttribute().Style); }
+
+void SettingsDialog::lstStyles_Click(int style) { SelectedAttribute().Style = ToByte(style); }
+
+void SettingsDialog::cmdCambiarColor_Click() {
+    const auto chosen =
+        AnswerOf([this] { return Parts_.Questions.ShowColor(SelectedAttribute().Color); });
+    if (!chosen)
+        return;
+    SelectedAttribute().Color = *chosen;
+    Window_.SetSample(*chosen);
+}
+
+void SettingsDialog::cmdCambiarFuente_Click() {
+    const auto chosen = AnswerOf([this] { return Parts_.Questions.ShowFont(Font_); });
+    if (!chosen)
+        return;
+    Font_ = *chosen;
+    ShowFontSample();
+}
+
+void SettingsDialog::ShowFontSample() {
+    Window_.SetFontSample(QString::number(Font_.Size) + u' ' + Font_.Name, Font_);
+}
+
+void SettingsDialog::cmdCompilerBrowse_Click() {
+    if (const auto chosen = Browse(QStringLiteral("Seleccionar FXC.exe"), Parts_.Options.FenixCPath,
+                                   QStringLiteral("Archivo FXC.exe|FXC.exe")))
+        Window_.SetText(SettingsText::CompilerPath, *chosen);
+}
+
+/// The filter asks for "index.html", though the help page that comes with the program is called
+/// "index.htm".
+void SettingsDialog::cmdHelpBrowse_Click() {
+    if (const auto chosen =
+            Browse(QStringLiteral("Seleccionar index.html"), Parts_.Options.HelpPath,
+                   QStringLiteral("Índice de la ayuda (index.html)|index.html")))
+        Window_.SetText(SettingsText::HelpPath, *chosen);
+}
+
+/// Starts from the stored path, not from what the text box holds meanwhile.
+std::optional<QString> SettingsDialog::Browse(const QString &title, const QString &stored,
+                                              const QString &filter) {
+    return AnswerOf([&] {
+        return Parts_.Questions.ShowOpen({FileChooserFlags::None, filter, stored, title, stored});
+    });
+}
+
+bool SettingsDialog::txtTabSize_KeyPress(int characterCode) const {
+    return characterCode >= u'0' && characterCode <= u':';
+}
+
+void SettingsDialog::txtTabSize_Change() {
+    if (TabSizeNumber() > HighestTabSize)
+        Window_.SetText(SettingsText::TabSize, QString::number(HighestTabSize));
+    if (TabSizeNumber() < LowestTabSize)
+        Window_.SetText(SettingsText::TabSize, QString::number(LowestTabSize));
+    Window_.SetTabSpinner(ToLong(TabSizeNumber()));
+}
+
+void SettingsDialog::spnTabSize_Change(int value) {
+    Window_.SetText(SettingsText::TabSize, QString::number(value));
+}
+
+void SettingsDialog::spnTabSize_SpinUp() { Window_.FocusTabSize(); }
+
+void SettingsDialog::spnTabSize_SpinDown() { Window_.FocusTabSize(); }
+
+void SettingsDialog::cmdAceptar_Click() {
+    StoreSettings();
+    Window_.Unload();
+}
+
+void SettingsDialog::cmdAplicar_Click() {
+    StoreSettings();
+    Window_.Hide();
+    if (Parts_.Registry.CurrentIndex >= 1)
+        Parts_.Registry.Current().Window->Editor().SetFocus(); // which applies the settings to it
+    Parts_.Events.ProcessPendingEvents();
+    Window_.ShowAgain();
+}
+
+void SettingsDialog::cmdCancelar_Click() { Window_.Unload(); }
+
+/// The path is not quoted: the explorer takes the rest of its command line as one path.
+void SettingsDialog::cmdAyuda_Click() {
+    Parts_.Launcher.Start(QStringLiteral("explorer.exe ") +
+                              HelpPagePath(Parts_.AppDir, QStringLiteral("HowTo.htm")),
+                          WindowStyle::Maximized);
+}
+
+ItemAttribute &SettingsDialog::SelectedAttribute() {
+    return ItemAttributes_.at(static_cast<std::size_t>(Window_.SelectedItem()));
+}
+
+double SettingsDialog::TabSizeNumber() const {
+    return LeadingNumber(Window_.Text(SettingsText::TabSize));
+}
+
+} // namespace Quillbox

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "language/SymbolScanner.h"
+#include "surfaces/Dialogs.h"
+#include "settings/ItemAttributes.h"
+
+namespace Quillbox {
+
+class Programs;
+class SettingsWindow;
+
+/// What collects the functions, labels and types of the current document, and where they go.
+struct SymbolParts {
+    SymbolScanner &Scanner;
+    RegisteredLanguage Language;
+    NavigationLists &Lists;
+};
+
+/// What the rules behind frmSettings work with.
+struct SettingsDialogParts {
+    QString AppDir; ///< the program folder with its separator
+    Settings &Options;
+    DocumentRegistry &Registry;
+    SymbolParts Symbols;
+    Dialogs &Questions;
+    Programs &Launcher;
+    EventLoop &Events;
+};
+
+/// What frmSettings decides, from its opening to its end. The settings change in memory only, when
+/// they are accepted or applied; the file is written when the program ends.
+class SettingsDialog {
+  public:
+    SettingsDialog(SettingsWindow &window, const SettingsDialogParts &parts);
+
+    void Form_Load();
+    void lstItems_Click();
+    /// `style`: the selected entry, from 0.
+    void lstStyles_Click(int style);
+    void cmdCambiarColor_Click();
+    void cmdCambiarFuente_Click();
+    void cmdCompilerBrowse_Click();
+    void cmdHelpBrowse_Click();
+    /// Whether the box takes a typed character: "0" to "9" and ":". Backspace is not among them.
+    bool txtTabSize_KeyPress(int characterCode) const;
+    /// Holds the text to 1 to 255 and makes the spinner follow.
+    void txtTabSize_Change();
+    void spnTabSize_Change(int value);
+    void spnTabSize_SpinUp();
+    void spnTabSize_SpinDown();
+    /// Stores and closes. A compiler path of fewer than 7 characters is run-time error 5: both
+    /// paths are stored then, nothing else is, and the dialog stays.
+    void cmdAceptar_Click();
+    /// Stores, shows the result in the current document and comes back. Fails as cmdAceptar_Click.
+    void cmdAplicar_Click();
+    void cmdCancelar_Click();
+    void cmdAyuda_Click();
+
+  private:
+    void ShowSettings();
+    void StoreSettings();
+    void RefreshSymbols();
+    void ShowItemColor();
+    void ShowItemStyle();
+    void ShowFontSample();
+    std::optional<QString> Browse(const QString &title, const QString &stored,
+                                  const QString &filter);
+    ItemAttribute &SelectedAttribute();
+    double TabSizeNumber() const;
+
+    SettingsWindow &Window_;
+    SettingsDialogParts Parts_;
+    ItemAttributes ItemAttributes_;
+    FontChoice Font_; ///< what the font chooser offers and the sample shows
+};
+
+} // namespace Quillbox

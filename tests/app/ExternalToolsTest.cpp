@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/ExternalTools.h"
+
+#include "fakes/ErrorNumber.h"
+#include "fakes/FakeSystem.h"
+#include "base/Paths.h"
+
+#include <QStringList>
+#include <gmock/gmock.h>
+
+namespace Quillbox {
+namespace {
+
+using testing::ElementsAre;
+
+class ExternalToolsTest : public testing::Test {
+  protected:
+    static QString Joined(std::initializer_list<QString> names) {
+        return QStringList(names).join(PathSeparator);
+    }
+
+    const QString Generator = Joined({"/mi carpeta", "Scaffolder", "Scaffolder.exe"});
+    CallLog Log;
+    FakePrograms Launcher{Log};
+    FakeFiles Stored{Log};
+    FakeDialogs Questions{Log};
+    ExternalTools Tools{QStringLiteral("/mi carpeta") + PathSeparator, Launcher, Stored, Questions};
+};
+
+TEST_F(ExternalToolsTest, TheCalculatorStartsMinimisedAndUnchecked) {
+    Tools.mnuHerramientas_Calculadora_Click();
+    EXPECT_THAT(Log.Calls(), ElementsAre("programs.Start calc.exe 2"));
+}
+
+TEST_F(ExternalToolsTest, AMissingCalculatorIsARunTimeErrorWithoutAMessageOfItsOwn) {
+    Launcher.Missing = true;
+    EXPECT_EQ(ErrorNumberOf([this] { Tools.mnuHerramientas_Calculadora_Click(); }), 53);
+    EXPECT_TRUE(Questions.Messages.empty());
+}
+
+TEST_F(ExternalToolsTest, TheGeneratorStartsWithoutQuotesInANormalWindowOnceItIsFound) {
+    Stored.Contents[Generator] = "MZ";
+    Tools.mnuHerramientas_ScaffolderGenerator_Click();
+    EXPECT_THAT(Log.Calls(), ElementsAre("files.CanRead " + Generator.toStdString(),
+                                         "programs.Start " + Generator.toStdString() + " 1"));
+}
+
+TEST_F(ExternalToolsTest, AMissingGeneratorIsWarnedAboutAndNotStarted) {
+    Tools.mnuHerramientas_ScaffolderGenerator_Click();
+    EXPECT_THAT(Log.CallsOf({"programs."}), testing::IsEmpty());
+    ASSERT_EQ(Questions.Messages.size(), 1U);
+    const Message &warning = Questions.Messages[0];
+    EXPECT_EQ(warning.Text, "El archivo " + Generator + " no existe.");
+    EXPECT_EQ(warning.Caption, "Error");
+    EXPECT_EQ(warning.Icon, MessageIcon::Exclamation);
+    EXPECT_EQ(warning.Buttons, MessageButtons::Ok);
+}
+
+TEST_F(ExternalToolsTest, TheIndexPageIsHandedOverMaximisedUncheckedAndUnquoted) {
+    Tools.mnuAyuda_Inkwell_Click();
+    EXPECT_THAT(Log.Calls(),
+                ElementsAre("programs.Start explorer.exe " +
+                            Joined({"/mi carpeta", "Ayuda", "index.htm"}).toStdString() + " 3"));
+}
+
+} // namespace
+} // namespace Quillbox
