@@ -2,9 +2,9 @@
 #include "Report.h"
 #include "Workbench.h"
 
-#include "platform/SystemFolders.h"
 #include "media/ui/frmFileList.h"
 #include "media/ui/frmFolderList.h"
+#include "platform/SystemFolders.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -3,10 +3,10 @@
 
 #include "SourceText.h"
 
-#include "surfaces/Dialogs.h"
-#include "search/ui/FindDialog.h"
 #include "editor/ui/LanguageCatalogue.h"
 #include "editor/ui/ScintillaEditor.h"
+#include "search/ui/FindDialog.h"
+#include "surfaces/Dialogs.h"
 
 #include <QCoreApplication>
 
@@ -34,7 +34,7 @@ struct Workbench {
     Workbench() { Languages.RegisterLanguage(LanguageName, SourceLanguage()); }
 
     std::unique_ptr<ScintillaEditor> NewEditor() {
-        auto editor = std::make_unique<ScintillaEditor>(Languages, Find, Messages);
+        auto editor = std::make_unique<ScintillaEditor>(Languages, Messages);
         editor->SetLanguage(LanguageName);
         editor->SetLineNumbers(true);
         editor->resize(1000, 700);
@@ -44,7 +44,6 @@ struct Workbench {
     }
 
     LanguageCatalogue Languages;
-    FindState Find;
     NoDialogs Messages;
 };
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Any output of a compiler is either passed over, located, or refused with run-time error 5.
-#include "build/CompilerLog.h"
 #include "base/AnsiText.h"
 #include "base/RuntimeError.h"
+#include "build/CompilerLog.h"
 
 #include <cstdint>
 #include <cstdlib>

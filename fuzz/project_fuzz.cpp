@@ -4,8 +4,8 @@
 #include "base/AnsiText.h"
 #include "base/ProfileText.h"
 #include "project/PackedLists.h"
-#include "state/Project.h"
 #include "project/ProjectFile.h"
+#include "state/Project.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -2,13 +2,13 @@
 // Random bytes as a source text. Colouring it line by line, or again from any line on, gives the
 // colours that colouring it at once gives; the scanner's tables and lists say the same; and neither
 // takes longer than a second a megabyte.
-#include "state/settings.h"
-#include "state/DocumentRegistry.h"
-#include "language/ColouringRules.h"
-#include "language/SymbolScanner.h"
 #include "fakes/FakeEditor.h"
 #include "fakes/FakeMainWindow.h"
 #include "fakes/FakeSystem.h"
+#include "language/ColouringRules.h"
+#include "language/SymbolScanner.h"
+#include "state/DocumentRegistry.h"
+#include "state/settings.h"
 
 #include <algorithm>
 #include <cstdint>

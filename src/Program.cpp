@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Program.h"
 
+#include "app/ui/frmAcercaDe.h"
 #include "editor/EditCommands.h"
 #include "editor/LineCommands.h"
 #include "language/WordCompletion.h"
-#include "surfaces/EditorControl.h"
-#include "surfaces/HelpViewer.h"
 #include "project/ui/frmNewProject.h"
 #include "settings/ui/frmSettings.h"
-#include "app/ui/frmAcercaDe.h"
+#include "surfaces/EditorControl.h"
+#include "surfaces/HelpViewer.h"
 
 namespace Quillbox {
 namespace {

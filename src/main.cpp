@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Program.h"
 
+#include "app/ui/frmLogo.h"
 #include "base/AppDir.h"
 #include "platform/ProfileFiles.h"
 #include "platform/ProgramFolder.h"
@@ -12,7 +13,6 @@
 #include "widgets/QtDialogs.h"
 #include "widgets/QtEventLoop.h"
 #include "widgets/SpanishInterface.h"
-#include "app/ui/frmLogo.h"
 
 #include <QApplication>
 #include <QIcon>

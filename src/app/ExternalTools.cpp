@@ -2,8 +2,8 @@
 #include "app/ExternalTools.h"
 
 #include "base/AppDir.h"
-#include "build/modExecCMD.h"
 #include "base/Paths.h"
+#include "surfaces/FileExists.h"
 #include "surfaces/Programs.h"
 
 namespace Quillbox {

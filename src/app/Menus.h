@@ -9,7 +9,8 @@
 
 namespace Quillbox {
 
-/// One entry of the menu bar. An entry without a menu is a menu itself; a caption "-" is a separator.
+/// One entry of the menu bar. An entry without a menu is a menu itself; a caption "-" is a
+/// separator.
 struct MenuEntry {
     const char *Menu;     ///< control name of the menu that holds it; empty for a menu
     const char *Name;     ///< control name; empty for a separator

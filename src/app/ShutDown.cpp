@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/ShutDown.h"
 
-#include "state/settings.h"
 #include "documents/DocumentCommands.h"
 #include "state/DocumentRegistry.h"
 #include "state/Project.h"
+#include "state/settings.h"
 
 namespace Quillbox {
 

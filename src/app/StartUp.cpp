@@ -3,12 +3,12 @@
 
 #include "base/AppDir.h"
 #include "documents/CommandState.h"
+#include "state/Project.h"
 #include "state/WordFiles.h"
 #include "state/settings.h"
 #include "surfaces/HelpViewer.h"
 #include "surfaces/LanguageRegistration.h"
 #include "surfaces/MainWindow.h"
-#include "state/Project.h"
 
 namespace Quillbox {
 

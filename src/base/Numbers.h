@@ -7,9 +7,9 @@
 
 namespace Quillbox {
 
-/// The number that `text` begins with: leading blanks are skipped; then an optional sign, digits and
-/// a decimal point, or "&H" with hexadecimal or "&O" with octal digits, up to the first character
-/// that cannot continue the number. A text that begins with no number is 0.
+/// The number that `text` begins with: leading blanks are skipped; then an optional sign, digits
+/// and a decimal point, or "&H" with hexadecimal or "&O" with octal digits, up to the first
+/// character that cannot continue the number. A text that begins with no number is 0.
 double LeadingNumber(QStringView text);
 
 /// Nearest whole number, halves to the even neighbour; run-time error 6 outside 32 bits with sign.

@@ -11,9 +11,7 @@ RuntimeError Overflow() { return {6, QStringLiteral("Desbordamiento")}; }
 
 RuntimeError OutOfMemory() { return {7, QStringLiteral("Memoria insuficiente")}; }
 
-RuntimeError SubscriptOutOfRange() {
-    return {9, QStringLiteral("Subíndice fuera del intervalo")};
-}
+RuntimeError SubscriptOutOfRange() { return {9, QStringLiteral("Subíndice fuera del intervalo")}; }
 
 RuntimeError FileNotFound() { return {53, QStringLiteral("No se ha encontrado el archivo")}; }
 

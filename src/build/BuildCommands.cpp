@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "build/BuildCommands.h"
 
-#include "state/settings.h"
+#include "base/ResumeNext.h"
 #include "build/Compiler.h"
 #include "build/CompilerLog.h"
 #include "documents/DocumentCommands.h"
-#include "state/DocumentRegistry.h"
 #include "documents/FileNames.h"
+#include "state/DocumentRegistry.h"
+#include "state/settings.h"
 #include "surfaces/Dialogs.h"
 #include "surfaces/DocumentWindow.h"
 #include "surfaces/EditorControl.h"
 #include "surfaces/MainWindow.h"
 #include "surfaces/Programs.h"
-#include "base/ResumeNext.h"
 
 namespace Quillbox {
 namespace {
@@ -35,8 +35,7 @@ QString BuildLine(const Settings &settings, const QString &executable, const QSt
 /// Belongs to the Fenix tools: juego.prg is run as juego.dcb, and juego.bb asks for juegodcb.
 QString RunLine(const Settings &settings, const Document &document) {
     return settings.MainPath + QStringLiteral("FXI.exe ") +
-           Quoted(document.Directory + WithoutLast(document.FileName, 3) +
-                  QStringLiteral("dcb"));
+           Quoted(document.Directory + WithoutLast(document.FileName, 3) + QStringLiteral("dcb"));
 }
 
 } // namespace
@@ -79,8 +78,8 @@ void BuildCommands::mnuPrograma_CrearEXE_Click() {
 
 /// A fixed text that the compiler expects, whatever the settings say.
 void BuildCommands::SetCompilerPath() {
-    Parts_.Launcher.SetEnvironmentVariable(
-        QStringLiteral("blitzpath"), QStringLiteral("C:\\Archivos de programa\\Blitz3D\\"));
+    Parts_.Launcher.SetEnvironmentVariable(QStringLiteral("blitzpath"),
+                                           QStringLiteral("C:\\Archivos de programa\\Blitz3D\\"));
 }
 
 /// An untitled document is always asked for a name. Who cancels that goes on with the untitled one.

@@ -26,7 +26,8 @@ struct BuildParts {
     Dialogs &Questions;
 };
 
-/// The Program menu. All commands work on the active document; with none run-time error 9 ends them.
+/// The Program menu. All commands work on the active document; with none run-time error 9 ends
+/// them.
 class BuildCommands {
   public:
     explicit BuildCommands(const BuildParts &parts);

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "build/Compiler.h"
 
+#include "base/ResumeNext.h"
 #include "build/CompilerLog.h"
 #include "build/modExecCMD.h"
 #include "documents/FileNames.h"
 #include "surfaces/MainWindow.h"
-#include "base/ResumeNext.h"
 
 namespace Quillbox {
 namespace {

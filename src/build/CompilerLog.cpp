@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "build/CompilerLog.h"
 
+#include "base/AnsiText.h"
 #include "base/Numbers.h"
+#include "base/Paths.h"
+#include "base/RuntimeError.h"
+#include "base/TextItems.h"
 #include "documents/DocumentCommands.h"
 #include "state/DocumentRegistry.h"
-#include "base/AnsiText.h"
 #include "surfaces/Dialogs.h"
 #include "surfaces/DocumentWindow.h"
 #include "surfaces/EditorControl.h"
 #include "surfaces/Files.h"
-#include "base/Paths.h"
-#include "base/RuntimeError.h"
-#include "base/TextItems.h"
 
 #include <algorithm>
 #include <limits>

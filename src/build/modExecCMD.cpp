@@ -3,9 +3,7 @@
 
 #include "base/AnsiText.h"
 #include "surfaces/ConsoleProcess.h"
-#include "surfaces/Dialogs.h"
 #include "surfaces/EventLoop.h"
-#include "surfaces/Files.h"
 
 namespace Quillbox {
 namespace {
@@ -15,9 +13,7 @@ constexpr std::size_t ReadCapacity = 30720;
 
 /// What was opened before the failure stays open: this is settled behaviour of the runner.
 QString Failure(const char *call, const ConsoleProcess &console) {
-    return QStringLiteral("Error: %1 failed. %2")
-        .arg(QLatin1String(call))
-        .arg(console.LastError());
+    return QStringLiteral("Error: %1 failed. %2").arg(QLatin1String(call)).arg(console.LastError());
 }
 
 } // namespace
@@ -48,14 +44,6 @@ QString ExecCmd(const QString &commandLine, ConsoleProcess &console, EventLoop &
         console.CloseHandle(handle);
     pump();
     return FromAnsi(*output);
-}
-
-bool FileExists(const QString &path, Files &files, Dialogs &dialogs) {
-    if (files.CanRead(path))
-        return true;
-    dialogs.ShowMessage({QStringLiteral("El archivo ") + path + QStringLiteral(" no existe."),
-                         QStringLiteral("Error"), MessageIcon::Exclamation, MessageButtons::Ok});
-    return false;
 }
 
 } // namespace Quillbox

@@ -6,9 +6,7 @@
 namespace Quillbox {
 
 class ConsoleProcess;
-class Dialogs;
 class EventLoop;
-class Files;
 
 /// Runs a command line as a hidden console process, waits until it has ended, however long that
 /// takes, and returns what it wrote to its standard output, at most 30720 bytes. A failure is only
@@ -18,8 +16,5 @@ class Files;
 /// This side keeps the pipe's write end open while it waits and reads once after the end. So a
 /// program that writes nothing, or more than the pipe holds, keeps the call from ever returning.
 QString ExecCmd(const QString &commandLine, ConsoleProcess &console, EventLoop &eventLoop);
-
-/// True when the file can be opened for reading; otherwise warns that it does not exist.
-bool FileExists(const QString &path, Files &files, Dialogs &dialogs);
 
 } // namespace Quillbox

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "documents/DocumentCommands.h"
 
-#include "documents/CommandState.h"
 #include "documents/ActivateDocument.h"
-#include "state/DocumentRegistry.h"
+#include "documents/CommandState.h"
 #include "documents/SyncTabs.h"
+#include "state/DocumentRegistry.h"
 #include "surfaces/Dialogs.h"
 #include "surfaces/DocumentWindow.h"
 #include "surfaces/EditorControl.h"

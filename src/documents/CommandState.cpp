@@ -20,9 +20,9 @@ const QString DocumentCommandNames[] = {
 };
 
 const QString DocumentToolButtons[] = {
-    QStringLiteral("Guardar"), QStringLiteral("Imprimir"), QStringLiteral("Cerrar"),
-    QStringLiteral("Buscar"),  QStringLiteral("Deshacer"), QStringLiteral("Rehacer"),
-    QStringLiteral("Cortar"),  QStringLiteral("Copiar"),   QStringLiteral("Pegar"),
+    QStringLiteral("Guardar"),  QStringLiteral("Imprimir"), QStringLiteral("Cerrar"),
+    QStringLiteral("Buscar"),   QStringLiteral("Deshacer"), QStringLiteral("Rehacer"),
+    QStringLiteral("Cortar"),   QStringLiteral("Copiar"),   QStringLiteral("Pegar"),
     QStringLiteral("Ejecutar"),
 };
 

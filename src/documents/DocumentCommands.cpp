@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "documents/DocumentCommands.h"
 
-#include "documents/CommandState.h"
+#include "base/Paths.h"
 #include "documents/ActivateDocument.h"
-#include "state/DocumentRegistry.h"
+#include "documents/CommandState.h"
 #include "documents/FileNames.h"
 #include "documents/SyncTabs.h"
+#include "state/DocumentRegistry.h"
 #include "surfaces/Dialogs.h"
 #include "surfaces/DocumentWindow.h"
 #include "surfaces/EditorControl.h"
 #include "surfaces/MainWindow.h"
-#include "base/Paths.h"
 
 namespace Quillbox {
 

@@ -22,8 +22,8 @@ class DocumentCommands {
     /// ignored.
     void NewDocument();
     /// Opens the file, or activates the document that shows it already, whatever the letter case of
-    /// the path. An empty path asks for the file. A file that cannot be read leaves no document; the
-    /// editor control has told why.
+    /// the path. An empty path asks for the file. A file that cannot be read leaves no document;
+    /// the editor control has told why.
     void OpenDocument(const QString &path);
     /// Closes the current document without asking.
     void CloseDocument();

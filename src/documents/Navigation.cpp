@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "documents/Navigation.h"
 
-#include "documents/CommandState.h"
 #include "documents/ActivateDocument.h"
-#include "state/DocumentRegistry.h"
+#include "documents/CommandState.h"
 #include "documents/SyncTabs.h"
+#include "language/SymbolLists.h"
+#include "state/DocumentRegistry.h"
 #include "surfaces/HelpViewer.h"
 #include "surfaces/MainWindow.h"
 
@@ -65,13 +66,6 @@ void Navigation::ActivateHelpPage() {
 void Navigation::ActivateCurrentDocument() {
     CommandState_.UpdateCommandState(true);
     ActivateDocument(Registry_.Current());
-}
-
-void ClearNavigationLists(NavigationLists &lists) {
-    for (const NavigationList list :
-         {NavigationList::Functions, NavigationList::Labels, NavigationList::Types})
-        while (lists.ItemCount(list) > 0)
-            lists.RemoveItem(list, 0);
 }
 
 } // namespace Quillbox

@@ -39,7 +39,4 @@ class Navigation {
     CommandState &CommandState_;
 };
 
-/// Empties the three lists in their order, item 0 by item 0.
-void ClearNavigationLists(NavigationLists &lists);
-
 } // namespace Quillbox

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/EditorView.h"
 
-#include "state/DocumentRegistry.h"
 #include "editor/ApplyEditorSettings.h"
-#include "state/LanguageDefinition.h"
 #include "language/QuickHelp.h"
 #include "language/SymbolScanner.h"
+#include "state/DocumentRegistry.h"
+#include "state/LanguageDefinition.h"
 #include "surfaces/DocumentWindow.h"
 #include "surfaces/EditorControl.h"
 #include "surfaces/EventLoop.h"
@@ -81,9 +81,9 @@ void EditorView::txtCode_GotFocus() { ApplyEditorSettings(Window_, Parts_.Option
 
 void EditorView::ShowCaretPosition() {
     const TextPosition caret = Window_.Editor().GetSel().End;
-    Window_.SetPanelText(StatusPanel::CaretPosition, QStringLiteral("%1 :%2")
-                                                         .arg(NumberOf(caret.Line).Value)
-                                                         .arg(NumberOf(caret.Column).Value));
+    Window_.SetPanelText(
+        StatusPanel::CaretPosition,
+        QStringLiteral("%1 :%2").arg(NumberOf(caret.Line).Value).arg(NumberOf(caret.Column).Value));
 }
 
 DocumentLayout LayOutDocument(int windowWidth, int statusBarTop, int frameWidth, int otherPanels) {

@@ -2,8 +2,8 @@
 #include "help/HelpCommands.h"
 
 #include "documents/Navigation.h"
-#include "state/settings.h"
 #include "state/DocumentRegistry.h"
+#include "state/settings.h"
 #include "surfaces/DocumentWindow.h"
 #include "surfaces/EditorControl.h"
 #include "surfaces/HelpViewer.h"

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "help/HelpLinks.h"
 
+#include "base/Paths.h"
 #include "documents/DocumentCommands.h"
-#include "state/DocumentRegistry.h"
 #include "language/SymbolScanner.h"
+#include "state/DocumentRegistry.h"
 #include "surfaces/DocumentWindow.h"
 #include "surfaces/EditorControl.h"
 #include "surfaces/HelpViewer.h"
-#include "base/Paths.h"
 #include "surfaces/Programs.h"
 
 #include <QUrl>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "state/LanguageDefinition.h"
 #include "language/WordSet.h"
+#include "state/LanguageDefinition.h"
 
 #include <array>
 #include <string>

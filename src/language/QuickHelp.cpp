@@ -2,9 +2,9 @@
 #include "language/QuickHelp.h"
 
 #include "base/Numbers.h"
+#include "state/DocumentRegistry.h"
 #include "state/WordFiles.h"
 #include "state/settings.h"
-#include "state/DocumentRegistry.h"
 #include "surfaces/DocumentWindow.h"
 #include "surfaces/EditorControl.h"
 

@@ -47,4 +47,11 @@ void SymbolLists::GotoSelected(NavigationList list) {
     }
 }
 
+void ClearNavigationLists(NavigationLists &lists) {
+    for (const NavigationList list :
+         {NavigationList::Functions, NavigationList::Labels, NavigationList::Types})
+        while (lists.ItemCount(list) > 0)
+            lists.RemoveItem(list, 0);
+}
+
 } // namespace Quillbox

@@ -25,4 +25,7 @@ class SymbolLists {
     const NavigationLists &Lists_;
 };
 
+/// Empties the three lists in their order, item 0 by item 0.
+void ClearNavigationLists(NavigationLists &lists);
+
 } // namespace Quillbox

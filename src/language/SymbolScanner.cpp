@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/SymbolScanner.h"
 
-#include "documents/Navigation.h"
 #include "base/Numbers.h"
-#include "state/settings.h"
+#include "language/SymbolLists.h"
 #include "state/DocumentRegistry.h"
 #include "state/LanguageDefinition.h"
+#include "state/settings.h"
 #include "surfaces/DocumentWindow.h"
 #include "surfaces/EditorControl.h"
 #include "surfaces/EventLoop.h"

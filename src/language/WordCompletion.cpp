@@ -2,9 +2,9 @@
 #include "language/WordCompletion.h"
 
 #include "base/Numbers.h"
-#include "state/WordFiles.h"
-#include "state/DocumentRegistry.h"
 #include "base/TextPosition.h"
+#include "state/DocumentRegistry.h"
+#include "state/WordFiles.h"
 
 #include <algorithm>
 

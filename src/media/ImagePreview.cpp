@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "media/ImagePreview.h"
 
+#include "base/Twips.h"
 #include "media/ImagePreviewWindow.h"
 #include "surfaces/MainWindow.h"
-#include "base/Twips.h"
 
 #include <algorithm>
 

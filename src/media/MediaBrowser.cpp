@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "media/MediaBrowser.h"
 
-#include "build/modExecCMD.h"
+#include "base/Paths.h"
+#include "base/RuntimeError.h"
+#include "media/FolderPaths.h"
+#include "media/MediaBrowserWindow.h"
 #include "state/DocumentRegistry.h"
 #include "surfaces/Dialogs.h"
 #include "surfaces/DocumentWindow.h"
 #include "surfaces/EditorControl.h"
 #include "surfaces/EventLoop.h"
+#include "surfaces/FileExists.h"
 #include "surfaces/MainWindow.h"
-#include "media/MediaBrowserWindow.h"
-#include "base/Paths.h"
 #include "surfaces/Programs.h"
-#include "base/RuntimeError.h"
-#include "media/FolderPaths.h"
 
 namespace Quillbox {
 namespace {

@@ -2,9 +2,9 @@
 #include "project/NewProject.h"
 
 #include "documents/FileNames.h"
-#include "surfaces/Dialogs.h"
-#include "state/Project.h"
 #include "project/ProjectFile.h"
+#include "state/Project.h"
+#include "surfaces/Dialogs.h"
 
 namespace Quillbox {
 

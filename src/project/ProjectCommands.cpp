@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "project/ProjectCommands.h"
 
-#include "build/modExecCMD.h"
-#include "documents/DocumentCommands.h"
-#include "surfaces/Dialogs.h"
-#include "surfaces/MainWindow.h"
 #include "base/ResumeNext.h"
-#include "state/Project.h"
+#include "documents/DocumentCommands.h"
 #include "project/ProjectFile.h"
+#include "state/Project.h"
+#include "surfaces/Dialogs.h"
+#include "surfaces/FileExists.h"
+#include "surfaces/MainWindow.h"
 
 namespace Quillbox {
 

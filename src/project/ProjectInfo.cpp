@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "project/ProjectInfo.h"
 
-#include "build/modExecCMD.h"
 #include "documents/DocumentCommands.h"
-#include "surfaces/Dialogs.h"
-#include "surfaces/EventLoop.h"
-#include "surfaces/MainWindow.h"
 #include "project/PackedLists.h"
 #include "state/Project.h"
+#include "surfaces/Dialogs.h"
+#include "surfaces/EventLoop.h"
+#include "surfaces/FileExists.h"
+#include "surfaces/MainWindow.h"
 
 namespace Quillbox {
 namespace {

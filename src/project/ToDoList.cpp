@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "project/ToDoList.h"
 
-#include "surfaces/Dialogs.h"
 #include "state/Project.h"
+#include "surfaces/Dialogs.h"
 
 namespace Quillbox {
 namespace {

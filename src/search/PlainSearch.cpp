@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "search/PlainSearch.h"
 
-#include "language/WordSet.h"
 #include "base/AnsiText.h"
+#include "language/WordSet.h"
 
 #include <QList>
 

@@ -2,18 +2,18 @@
 #include "settings/SettingsDialog.h"
 
 #include "base/AppDir.h"
-#include "documents/Navigation.h"
 #include "base/Numbers.h"
-#include "state/settings.h"
+#include "base/ResumeNext.h"
+#include "language/SymbolLists.h"
+#include "settings/SettingsWindow.h"
 #include "state/DocumentRegistry.h"
 #include "state/LanguageDefinition.h"
+#include "state/settings.h"
 #include "surfaces/DocumentWindow.h"
 #include "surfaces/EditorControl.h"
 #include "surfaces/EventLoop.h"
 #include "surfaces/LanguageRegistration.h"
 #include "surfaces/Programs.h"
-#include "base/ResumeNext.h"
-#include "settings/SettingsWindow.h"
 
 namespace Quillbox {
 namespace {

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "language/SymbolScanner.h"
-#include "surfaces/Dialogs.h"
 #include "settings/ItemAttributes.h"
+#include "surfaces/Dialogs.h"
 
 namespace Quillbox {
 

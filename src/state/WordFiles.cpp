@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "state/WordFiles.h"
 
-#include "build/modExecCMD.h"
 #include "base/AnsiText.h"
-#include "surfaces/Files.h"
 #include "base/TextItems.h"
+#include "surfaces/FileExists.h"
+#include "surfaces/Files.h"
 
 namespace Quillbox {
 void SetLanguageRules(LanguageDefinition &language) {
@@ -28,7 +28,8 @@ WordFiles::WordFiles(const QString &appDir, LanguageWords &words, Files &files, 
 
 void WordFiles::LoadKeywords() {
     int slot = 0;
-    for (const QString &item : FreeFormatItems(ReadText(AppDir_ + QStringLiteral("Keywords.txt")))) {
+    for (const QString &item :
+         FreeFormatItems(ReadText(AppDir_ + QStringLiteral("Keywords.txt")))) {
         Words_.KeywordTable[++slot] = item;
         Words_.LanguageDefinition.Keywords += u'\n' + item.toUpper();
     }

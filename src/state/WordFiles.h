@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "state/LanguageDefinition.h"
 #include "base/FixedTable.h"
+#include "state/LanguageDefinition.h"
 
 #include <QString>
 

@@ -63,9 +63,9 @@ SettingsStore::SettingsStore(const QString &appDir, Settings &settings, PrivateP
 
 void SettingsStore::LoadSettings() {
     for (const SettingsEntry &entry : Entries) {
-        const QString text = Profile_.ReadString(Section, QString::fromLatin1(entry.Key),
-                                                 QString::fromLatin1(entry.DefaultText),
-                                                 entry.Capacity, File_);
+        const QString text =
+            Profile_.ReadString(Section, QString::fromLatin1(entry.Key),
+                                QString::fromLatin1(entry.DefaultText), entry.Capacity, File_);
         std::visit([&](auto field) { SetValue(Settings_.*field, text); }, entry.Field);
     }
 }

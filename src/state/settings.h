@@ -12,8 +12,8 @@
 
 namespace Quillbox {
 
-/// All user preferences, named after their keys in the settings file. Read once at start-up, changed
-/// in memory by the settings dialog, written once at a normal exit.
+/// All user preferences, named after their keys in the settings file. Read once at start-up,
+/// changed in memory by the settings dialog, written once at a normal exit.
 struct Settings {
     QString FenixCPath; ///< the compiler's executable
     QString HelpPath;   ///< the language help's first page
@@ -49,8 +49,7 @@ struct SettingsEntry {
     const char *Key;
     const char *DefaultText;
     int Capacity; ///< of the reading buffer: values are cut to one character less
-    std::variant<QString Settings::*, bool Settings::*, Color Settings::*,
-                 std::uint8_t Settings::*>
+    std::variant<QString Settings::*, bool Settings::*, Color Settings::*, std::uint8_t Settings::*>
         Field;
 };
 

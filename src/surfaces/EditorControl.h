@@ -2,8 +2,8 @@
 #pragma once
 
 #include "base/Color.h"
-#include "surfaces/Completion.h"
 #include "base/TextPosition.h"
+#include "surfaces/Completion.h"
 
 #include <QString>
 

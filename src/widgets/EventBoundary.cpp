@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "widgets/EventBoundary.h"
 
-#include "surfaces/Dialogs.h"
 #include "base/RuntimeError.h"
+#include "surfaces/Dialogs.h"
 
 #include <new>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/ExternalTools.h"
 
+#include "base/Paths.h"
 #include "fakes/ErrorNumber.h"
 #include "fakes/FakeSystem.h"
-#include "base/Paths.h"
 
 #include <QStringList>
 #include <gmock/gmock.h>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/StartUp.h"
 
-#include "state/WordFiles.h"
+#include "base/Paths.h"
 #include "fakes/ErrorNumber.h"
 #include "fakes/FakeProgram.h"
-#include "base/Paths.h"
+#include "state/WordFiles.h"
 
 #include <gmock/gmock.h>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/AppDir.h"
 
-#include "fakes/CallLog.h"
 #include "base/Paths.h"
+#include "fakes/CallLog.h"
 
 #include <gtest/gtest.h>
 

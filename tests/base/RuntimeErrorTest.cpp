@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/RuntimeError.h"
 
+#include "base/ResumeNext.h"
 #include "fakes/CallLog.h"
 #include "fakes/ErrorNumber.h"
-#include "base/ResumeNext.h"
 
 #include <gtest/gtest.h>
 

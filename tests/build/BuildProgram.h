@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "base/Paths.h"
 #include "build/BuildCommands.h"
 #include "build/Compiler.h"
 #include "build/CompilerLog.h"
 #include "fakes/ErrorNumber.h"
 #include "fakes/FakeProgram.h"
-#include "base/Paths.h"
 
 #include <gmock/gmock.h>
 

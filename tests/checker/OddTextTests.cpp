@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "checker/TestFiles.h"
-#include "fakes/SourceTree.h"
 #include "checker/Tokenizer.h"
+#include "fakes/SourceTree.h"
 
 #include <gtest/gtest.h>
 #include <random>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "state/settings.h"
 #include "data_files/HelpFolder.h"
+#include "state/settings.h"
 
 #include <QImage>
 #include <QSet>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "documents/FileNames.h"
 
+#include "base/Paths.h"
 #include "fakes/CallLog.h"
 #include "fakes/ErrorNumber.h"
-#include "base/Paths.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "fakes/FakeProgram.h"
 #include "base/Paths.h"
+#include "fakes/FakeProgram.h"
 
 #include <gmock/gmock.h>
 

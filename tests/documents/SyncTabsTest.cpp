@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "documents/SyncTabs.h"
 
-#include "state/DocumentRegistry.h"
 #include "fakes/FakeMainWindow.h"
+#include "state/DocumentRegistry.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

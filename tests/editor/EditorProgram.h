@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "state/WordFiles.h"
 #include "editor/EditorView.h"
+#include "fakes/FakeProgram.h"
 #include "language/QuickHelp.h"
 #include "language/SymbolLists.h"
 #include "language/SymbolScanner.h"
-#include "fakes/FakeProgram.h"
+#include "state/WordFiles.h"
 
 #include <gmock/gmock.h>
 

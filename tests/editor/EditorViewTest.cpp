@@ -2,8 +2,8 @@
 #include "editor/EditorView.h"
 
 #include "EditorProgram.h"
-#include "editor/ApplyEditorSettings.h"
 #include "base/Twips.h"
+#include "editor/ApplyEditorSettings.h"
 
 namespace Quillbox {
 namespace {

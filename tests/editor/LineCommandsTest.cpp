@@ -2,8 +2,8 @@
 #include "editor/LineCommands.h"
 
 #include "editor/EditCommands.h"
-#include "state/LanguageDefinition.h"
 #include "fakes/FakeEditor.h"
+#include "state/LanguageDefinition.h"
 
 #include <gmock/gmock.h>
 

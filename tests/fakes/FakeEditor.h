@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "base/RuntimeError.h"
 #include "fakes/CallLog.h"
 #include "surfaces/DocumentWindow.h"
 #include "surfaces/EditorControl.h"
-#include "base/RuntimeError.h"
 
 #include <QStringList>
 

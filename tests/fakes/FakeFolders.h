@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "surfaces/Folders.h"
 #include "base/RuntimeError.h"
+#include "surfaces/Folders.h"
 
 #include <map>
 #include <set>

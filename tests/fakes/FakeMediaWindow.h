@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "base/RuntimeError.h"
 #include "fakes/CallLog.h"
 #include "media/MediaBrowserWindow.h"
-#include "base/RuntimeError.h"
 
 #include <functional>
 #include <optional>

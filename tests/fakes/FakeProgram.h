@@ -2,12 +2,12 @@
 #pragma once
 
 #include "documents/CommandState.h"
-#include "documents/Navigation.h"
-#include "state/settings.h"
 #include "documents/DocumentCommands.h"
-#include "state/DocumentRegistry.h"
+#include "documents/Navigation.h"
 #include "fakes/FakeMainWindow.h"
 #include "fakes/FakeSystem.h"
+#include "state/DocumentRegistry.h"
+#include "state/settings.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "state/LanguageDefinition.h"
+#include "base/RuntimeError.h"
 #include "fakes/CallLog.h"
+#include "state/LanguageDefinition.h"
 #include "surfaces/ConsoleProcess.h"
 #include "surfaces/Dialogs.h"
 #include "surfaces/EventLoop.h"
@@ -10,7 +11,6 @@
 #include "surfaces/LanguageRegistration.h"
 #include "surfaces/PrivateProfile.h"
 #include "surfaces/Programs.h"
-#include "base/RuntimeError.h"
 
 #include <deque>
 #include <functional>

@@ -5,8 +5,8 @@
 
 namespace Quillbox {
 
-/// The top folder of the tree that the tests were built from: golden cases, data and examples lie in
-/// it.
+/// The top folder of the tree that the tests were built from: golden cases, data and examples lie
+/// in it.
 std::filesystem::path SourceTree();
 
 } // namespace Quillbox

@@ -4,10 +4,10 @@
 #include "Program.h"
 
 #include "fakes/FakeSystem.h"
-#include "surfaces/EditorControl.h"
 #include "platform/ProfileFiles.h"
 #include "platform/SystemFiles.h"
 #include "platform/SystemFolders.h"
+#include "surfaces/EditorControl.h"
 #include "widgets/QtEventLoop.h"
 
 #include <QFile>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "help/HelpLinks.h"
 
-#include "language/SymbolScanner.h"
+#include "base/Paths.h"
 #include "fakes/ErrorNumber.h"
 #include "fakes/FakeProgram.h"
+#include "language/SymbolScanner.h"
 #include "surfaces/HelpViewer.h"
-#include "base/Paths.h"
 
 #include <gmock/gmock.h>
 

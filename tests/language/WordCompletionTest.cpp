@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/WordCompletion.h"
 
-#include "state/WordFiles.h"
 #include "state/DocumentRegistry.h"
+#include "state/WordFiles.h"
 
 #include <gmock/gmock.h>
 

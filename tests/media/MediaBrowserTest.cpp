@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "media/MediaBrowser.h"
 
+#include "base/Paths.h"
 #include "fakes/ErrorNumber.h"
 #include "fakes/FakeMediaWindow.h"
 #include "fakes/FakeProgram.h"
-#include "base/Paths.h"
 
 #include <gmock/gmock.h>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/ProgramTest.h"
 #include "base/RuntimeError.h"
+#include "platform/ProgramTest.h"
 #include "platform/SystemPrograms.h"
 
 namespace Quillbox {

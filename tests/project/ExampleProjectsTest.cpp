@@ -5,8 +5,8 @@
 #include "fakes/SourceTree.h"
 #include "platform/ProfileFiles.h"
 #include "project/PackedLists.h"
-#include "state/Project.h"
 #include "project/ProjectFile.h"
+#include "state/Project.h"
 
 #include <gmock/gmock.h>
 

@@ -7,8 +7,8 @@
 #include "fakes/GoldenCases.h"
 #include "platform/ProfileFiles.h"
 #include "project/PackedLists.h"
-#include "state/Project.h"
 #include "project/ProjectFile.h"
+#include "state/Project.h"
 
 #include <QTemporaryDir>
 

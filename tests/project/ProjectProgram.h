@@ -2,8 +2,8 @@
 #pragma once
 
 #include "fakes/FakeProgram.h"
-#include "state/Project.h"
 #include "project/ProjectCommands.h"
+#include "state/Project.h"
 
 #include <gmock/gmock.h>
 

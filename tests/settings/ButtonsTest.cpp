@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "SettingsProgram.h"
-#include "fakes/ErrorNumber.h"
 #include "base/Paths.h"
+#include "fakes/ErrorNumber.h"
 
 namespace Quillbox {
 namespace {

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "fakes/CallLog.h"
-#include "surfaces/Dialogs.h"
-#include "settings/SettingsWindow.h"
 #include "settings/SettingsDialog.h"
+#include "settings/SettingsWindow.h"
+#include "surfaces/Dialogs.h"
 
 #include <algorithm>
 #include <map>

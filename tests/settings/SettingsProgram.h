@@ -2,9 +2,9 @@
 #pragma once
 
 #include "FakeSettingsWindow.h"
-#include "state/WordFiles.h"
-#include "language/SymbolScanner.h"
 #include "fakes/FakeProgram.h"
+#include "language/SymbolScanner.h"
+#include "state/WordFiles.h"
 
 #include <gmock/gmock.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "state/settings.h"
 #include "fakes/ErrorNumber.h"
 #include "fakes/FakeSystem.h"
+#include "state/settings.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

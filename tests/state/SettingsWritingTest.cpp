@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "state/settings.h"
 #include "fakes/FakeSystem.h"
 #include "platform/ProfileFiles.h"
+#include "state/settings.h"
 
 #include <QFile>
 #include <QTemporaryDir>

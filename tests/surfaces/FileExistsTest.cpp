@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "build/modExecCMD.h"
+#include "surfaces/FileExists.h"
 #include "fakes/FakeSystem.h"
 
 #include <gmock/gmock.h>

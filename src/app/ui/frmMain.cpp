@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/ui/frmMain.h"
 
-#include "documents/ui/frmMainArea.h"
 #include "app/ui/frmMainLists.h"
 #include "app/ui/frmMainTabs.h"
 #include "documents/ui/frmDoc.h"
-#include "widgets/EventBoundary.h"
+#include "documents/ui/frmMainArea.h"
 #include "help/ui/frmAyuda.h"
+#include "widgets/EventBoundary.h"
 
 #include <QCloseEvent>
 #include <QCursor>

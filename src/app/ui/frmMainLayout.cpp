@@ -2,11 +2,11 @@
 #include "app/ui/frmMain.h"
 
 #include "app/Toolbar.h"
-#include "documents/ui/frmMainArea.h"
 #include "app/ui/frmMainLists.h"
 #include "app/ui/frmMainTabs.h"
-#include "widgets/EventBoundary.h"
+#include "documents/ui/frmMainArea.h"
 #include "help/ui/frmAyuda.h"
+#include "widgets/EventBoundary.h"
 
 #include <QDockWidget>
 #include <QFontDatabase>

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "documents/ui/frmDoc.h"
 
-#include "documents/ui/frmMainArea.h"
-#include "state/DocumentRegistry.h"
 #include "base/Twips.h"
-#include "widgets/EventBoundary.h"
+#include "documents/ui/frmMainArea.h"
 #include "editor/ui/ScintillaEditor.h"
+#include "search/ui/FindCommands.h"
+#include "state/DocumentRegistry.h"
+#include "widgets/EventBoundary.h"
 
 #include <QCloseEvent>
 #include <QLabel>
@@ -22,8 +23,9 @@ struct PanelDesign {
     int Characters;
 };
 
-constexpr PanelDesign Panels[] = {{"", 0},      {"Modificado", 12}, {"1 :1", 14}, {"Blitz3D", 9},
-                                  {"ANSI", 7},  {"", 0},            {"", 0},      {"", 0}};
+constexpr PanelDesign Panels[] = {
+    {"", 0}, {"Modificado", 12}, {"1 :1", 14}, {"Blitz3D", 9}, {"ANSI", 7}, {"", 0}, {"", 0},
+    {"", 0}};
 
 constexpr int PanelIndent = 6;
 
@@ -41,7 +43,7 @@ frmDoc::frmDoc(const DocumentWindowParts &parts)
     : Parts_(parts)
     , View_(*this, Parts_.View)
     , Client_(new QWidget(this))
-    , txtCode(new ScintillaEditor(parts.Languages, parts.Find, parts.Messages, Client_))
+    , txtCode(new ScintillaEditor(parts.Languages, parts.Messages, Client_))
     , stbBarraEstado(new QStatusBar(Client_)) {
     setObjectName(QStringLiteral("frmDoc"));
     setWindowTitle(UntitledName);
@@ -52,6 +54,7 @@ frmDoc::frmDoc(const DocumentWindowParts &parts)
     setFocusProxy(txtCode);
     Client_->setFocusProxy(txtCode);
     Client_->installEventFilter(this);
+    ConnectFinding(*txtCode, parts.Find);
     ConnectEditor();
     Parts_.Area.Add(this);
     View_.Form_Load();
@@ -63,8 +66,8 @@ QString frmDoc::Caption() const { return windowTitle(); }
 
 void frmDoc::SetCaption(const QString &caption) { setWindowTitle(caption); }
 
-/// Comes into view when its tab is selected, which follows at once. Shown before, it would be painted
-/// and its text scanned in a size that it loses in the next moment.
+/// Comes into view when its tab is selected, which follows at once. Shown before, it would be
+/// painted and its text scanned in a size that it loses in the next moment.
 void frmDoc::Show() {}
 
 void frmDoc::Activate() {
@@ -133,9 +136,8 @@ void frmDoc::ConnectEditor() {
     forward(&ScintillaEditor::MouseReleased, &EditorView::txtCode_MouseUp);
     forward(&ScintillaEditor::ContextMenuRequested, &EditorView::txtCode_RClick);
     forward(&ScintillaEditor::FocusReceived, &EditorView::txtCode_GotFocus);
-    connect(txtCode, &ScintillaEditor::KeyUp, this, [this](int keyCode) {
-        Parts_.Boundary.Run([&] { View_.txtCode_KeyUp(keyCode); });
-    });
+    connect(txtCode, &ScintillaEditor::KeyUp, this,
+            [this](int keyCode) { Parts_.Boundary.Run([&] { View_.txtCode_KeyUp(keyCode); }); });
     txtCode->CharacterTyped = [this](int code) {
         bool used = false;
         Parts_.Boundary.Run([&] { used = View_.txtCode_KeyPress(code); });

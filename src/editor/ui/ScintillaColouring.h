@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "language/ColouringExtent.h"
-#include "language/ColouringRules.h"
 #include "editor/ui/LanguageCatalogue.h"
 #include "editor/ui/ScintillaText.h"
+#include "language/ColouringExtent.h"
+#include "language/ColouringRules.h"
 
 #include <memory>
 #include <vector>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/ui/ScintillaCompletion.h"
 
-#include "language/ColouringTokens.h"
-#include "language/WordCompletion.h"
 #include "editor/ui/CompletionPopup.h"
 #include "editor/ui/ScintillaEditor.h"
+#include "language/ColouringTokens.h"
+#include "language/WordCompletion.h"
 
 #include <QKeyEvent>
 

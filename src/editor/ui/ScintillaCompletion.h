@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "surfaces/Completion.h"
 #include "editor/ui/ScintillaText.h"
+#include "surfaces/Completion.h"
 
 #include <QObject>
 #include <QPointer>

@@ -37,11 +37,10 @@ bool ShowsLongLine(const ScintillaText &text) {
 
 } // namespace
 
-ScintillaEditor::ScintillaEditor(const LanguageCatalogue &languages, FindState &find,
-                                 Dialogs &dialogs, QWidget *parent)
+ScintillaEditor::ScintillaEditor(const LanguageCatalogue &languages, Dialogs &dialogs,
+                                 QWidget *parent)
     : QsciScintillaBase(parent)
     , Languages_(languages)
-    , Find_(find)
     , Dialogs_(dialogs)
     , Text_(*this)
     , Styles_(Text_)

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "surfaces/EditorControl.h"
 #include "editor/ui/ScintillaBulkEdit.h"
 #include "editor/ui/ScintillaColouring.h"
 #include "editor/ui/ScintillaStyles.h"
+#include "surfaces/EditorControl.h"
 
 #include <Qsci/qsciscintillabase.h>
 
@@ -18,14 +18,13 @@ class Dialogs;
 class EditorPrinter;
 class ScintillaCompletion;
 struct FileError;
-struct FindState;
 
 /// The editor of one document. What a person does arrives as signals; in a signal the text, the
 /// caret and the modified flag already are as the action left them.
 class ScintillaEditor final : public QsciScintillaBase, public EditorControl {
     Q_OBJECT
   public:
-    ScintillaEditor(const LanguageCatalogue &languages, FindState &find, Dialogs &dialogs,
+    ScintillaEditor(const LanguageCatalogue &languages, Dialogs &dialogs,
                     QWidget *parent = nullptr);
     ~ScintillaEditor() override;
 
@@ -89,6 +88,10 @@ class ScintillaEditor final : public QsciScintillaBase, public EditorControl {
     void ModifiedChanged(bool modified);
     /// The control got another text, from a file or another editor.
     void OtherTextShown();
+    /// Another editor is about to take this one's text over.
+    void TextIsLeaving();
+    /// FindAndReplace, FindNext or FindPrevious is to be carried out on this editor.
+    void FindRequested(EditorCommand command);
     /// Before the key does anything; repeated while it is held.
     void KeyDown();
     /// Once per key, when it is let go: 13 Enter, 8 Backspace, 46 Delete, letters and digits their
@@ -132,7 +135,6 @@ class ScintillaEditor final : public QsciScintillaBase, public EditorControl {
     void ShowError(const QString &text);
 
     const LanguageCatalogue &Languages_;
-    FindState &Find_;
     Dialogs &Dialogs_;
     ScintillaText Text_;
     ScintillaStyles Styles_;

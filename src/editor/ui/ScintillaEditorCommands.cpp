@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "search/ui/FindDialog.h"
 #include "editor/ui/GoToLineDialog.h"
 #include "editor/ui/ScintillaBrackets.h"
 #include "editor/ui/ScintillaCarets.h"
@@ -77,13 +76,9 @@ void ScintillaEditor::ExecuteCommand(EditorCommand command) {
         Text_.Send(SCI_SELECTALL);
         break;
     case EditorCommand::FindAndReplace:
-        ShowFindDialog(Find_, *this);
-        break;
     case EditorCommand::FindNext:
-        FindAgain(Find_, *this, FindDirection::Forward);
-        break;
     case EditorCommand::FindPrevious:
-        FindAgain(Find_, *this, FindDirection::Backward);
+        emit FindRequested(command);
         break;
     case EditorCommand::DeleteNextCharacter:
         Perform([this] { Text_.Send(SCI_CLEAR); });

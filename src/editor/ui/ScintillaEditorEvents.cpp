@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "search/ui/FindDialog.h"
 #include "editor/ui/ScintillaCarets.h"
 #include "editor/ui/ScintillaEditor.h"
 #include "editor/ui/ScintillaKeys.h"
@@ -98,7 +97,6 @@ void ScintillaEditor::contextMenuEvent(QContextMenuEvent *event) {
 
 void ScintillaEditor::focusInEvent(QFocusEvent *event) {
     QsciScintillaBase::focusInEvent(event);
-    FollowFocus(Find_, *this);
     emit FocusReceived();
 }
 

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "surfaces/Dialogs.h"
-#include "search/ui/FindDialog.h"
 #include "editor/ui/ScintillaEditor.h"
 #include "editor/ui/ScintillaFiles.h"
+#include "surfaces/Dialogs.h"
 
 namespace Quillbox {
 
@@ -43,7 +42,7 @@ void ScintillaEditor::TakeContentsFrom(EditorControl &other) {
     auto &source = dynamic_cast<ScintillaEditor &>(other);
     if (&source == this)
         return;
-    FindMarks::Remove(source.Text_);
+    emit source.TextIsLeaving();
     Text_.Send(SCI_SETDOCPOINTER, 0, source.Text_.Send(SCI_GETDOCPOINTER));
     Styles_.TextReplaced();
     Colouring_.TakeOver(source.Colouring_);
@@ -59,7 +58,6 @@ void ScintillaEditor::TellOtherText() {
     Styles_.TextLinesChanged();
     emit OtherTextShown();
     TellChanges();
-    TellTextReplaced(Find_, *this);
 }
 
 } // namespace Quillbox

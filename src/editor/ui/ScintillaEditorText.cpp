@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "language/ColouringTokens.h"
 #include "editor/ui/ScintillaCarets.h"
 #include "editor/ui/ScintillaEditor.h"
 #include "editor/ui/ScintillaMarks.h"
+#include "language/ColouringTokens.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/SaveFile.h"
 #include "editor/ui/ScintillaText.h"
+#include "platform/SaveFile.h"
 
 namespace Quillbox {
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/ui/ScintillaStyles.h"
 
-#include "widgets/InstalledFamily.h"
 #include "editor/ui/ScintillaMarks.h"
+#include "widgets/InstalledFamily.h"
 
 #include <algorithm>
 

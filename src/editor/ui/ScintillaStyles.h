@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "editor/ui/ScintillaText.h"
 #include "language/ColouringRules.h"
 #include "surfaces/EditorControl.h"
-#include "editor/ui/ScintillaText.h"
 
 #include <array>
 

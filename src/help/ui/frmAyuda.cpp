@@ -2,8 +2,8 @@
 #include "help/ui/frmAyuda.h"
 
 #include "documents/ui/frmMainArea.h"
-#include "widgets/EventBoundary.h"
 #include "help/ui/frmAyudaBrowser.h"
+#include "widgets/EventBoundary.h"
 
 #include <QCloseEvent>
 #include <QLabel>

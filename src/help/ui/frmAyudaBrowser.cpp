@@ -2,11 +2,11 @@
 #include "help/ui/frmAyudaBrowser.h"
 
 #include "base/Paths.h"
-#include "platform/SystemFiles.h"
-#include "help/ui/LinkFocusStyle.h"
 #include "help/HelpPages.h"
+#include "help/ui/LinkFocusStyle.h"
 #include "help/ui/frmAyudaFindBar.h"
 #include "help/ui/frmAyudaImages.h"
+#include "platform/SystemFiles.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QDir>

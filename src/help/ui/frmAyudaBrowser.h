@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "help/ui/ZoomedDevice.h"
 #include "surfaces/HelpViewer.h"
 #include "widgets/WheelNotches.h"
-#include "help/ui/ZoomedDevice.h"
 
 #include <QTextBrowser>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "media/ui/PictureFile.h"
 
-#include "platform/SaveFile.h"
 #include "media/Pcx.h"
 #include "media/Targa.h"
+#include "platform/SaveFile.h"
 
 #include <QBuffer>
 #include <QFileInfo>

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "media/ui/frmMediaBrowser.h"
 
-#include "surfaces/Folders.h"
-#include "widgets/EventBoundary.h"
-#include "media/ui/PictureFile.h"
 #include "media/FolderPaths.h"
+#include "media/ui/PictureFile.h"
 #include "media/ui/frmDriveList.h"
 #include "media/ui/frmFileList.h"
 #include "media/ui/frmFolderList.h"
 #include "media/ui/frmMuestraImagenes.h"
+#include "surfaces/Folders.h"
+#include "widgets/EventBoundary.h"
 
 #include <QEvent>
 #include <QFileInfo>

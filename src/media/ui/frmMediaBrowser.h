@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "media/MediaBrowserWindow.h"
 #include "media/MediaBrowser.h"
+#include "media/MediaBrowserWindow.h"
 
 #include <QDialog>
 

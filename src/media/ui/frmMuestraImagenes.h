@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "media/ImagePreviewWindow.h"
 #include "media/ImagePreview.h"
+#include "media/ImagePreviewWindow.h"
 
 #include <QImage>
 #include <QWidget>

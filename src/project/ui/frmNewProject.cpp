@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "project/ui/frmNewProject.h"
 
-#include "widgets/EventBoundary.h"
 #include "project/NewProject.h"
+#include "widgets/EventBoundary.h"
 #include "widgets/frmFields.h"
 
 #include <QGridLayout>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "project/ui/frmProjectInfo.h"
 
-#include "widgets/EventBoundary.h"
 #include "project/ProjectInfo.h"
 #include "project/ui/frmEntryList.h"
+#include "widgets/EventBoundary.h"
 #include "widgets/frmFields.h"
 
 #include <QGridLayout>

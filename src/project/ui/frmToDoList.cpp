@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "project/ui/frmToDoList.h"
 
-#include "widgets/EventBoundary.h"
 #include "project/ToDoList.h"
 #include "project/ui/frmEntryList.h"
+#include "widgets/EventBoundary.h"
 #include "widgets/frmFields.h"
 
 #include <QHBoxLayout>

@@ -1,11 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "search/ui/FindCommands.h"
+
+#include "editor/ui/ScintillaEditor.h"
 #include "search/ui/FindDialog.h"
+#include "search/ui/FindMarks.h"
 #include "search/ui/FindMessages.h"
 #include "search/ui/FindNotice.h"
 
 namespace Quillbox {
+namespace {
 
-void ShowFindDialog(FindState &state, QsciScintillaBase &editor) {
+/// `editor` has got the keyboard.
+void FollowFocus(FindState &state, ScintillaEditor &editor) {
+    state.Editor = &editor;
+    if (state.Dialog)
+        state.Dialog->FollowEditor();
+}
+
+void ShowFindDialog(FindState &state, ScintillaEditor &editor) {
     FollowFocus(state, editor);
     ShowFindNotice(*editor.viewport(), {});
     if (!state.Dialog)
@@ -13,7 +25,9 @@ void ShowFindDialog(FindState &state, QsciScintillaBase &editor) {
     state.Dialog->Open();
 }
 
-void FindAgain(FindState &state, QsciScintillaBase &editor, FindDirection direction) {
+/// Selects the next match of the last request in that direction; a notice in the editor tells what
+/// there is to tell while the dialog is closed. Opens the dialog when there is no term.
+void FindAgain(FindState &state, ScintillaEditor &editor, FindDirection direction) {
     if (state.Request.Term.isEmpty())
         return ShowFindDialog(state, editor);
     FollowFocus(state, editor);
@@ -24,15 +38,31 @@ void FindAgain(FindState &state, QsciScintillaBase &editor, FindDirection direct
     ShowFindNotice(*editor.viewport(), MessageOf(outcome, task, direction));
 }
 
-void FollowFocus(FindState &state, QsciScintillaBase &editor) {
-    state.Editor = &editor;
-    if (state.Dialog)
-        state.Dialog->FollowEditor();
+void CarryOut(EditorCommand command, FindState &state, ScintillaEditor &editor) {
+    if (command == EditorCommand::FindAndReplace)
+        ShowFindDialog(state, editor);
+    else if (command == EditorCommand::FindPrevious)
+        FindAgain(state, editor, FindDirection::Backward);
+    else
+        FindAgain(state, editor, FindDirection::Forward);
 }
 
-void TellTextReplaced(const FindState &state, const QsciScintillaBase &editor) {
+void TellTextReplaced(const FindState &state, const ScintillaEditor &editor) {
     if (state.Dialog && state.Editor == &editor)
         state.Dialog->TextReplaced();
+}
+
+} // namespace
+
+void ConnectFinding(ScintillaEditor &editor, FindState &state) {
+    const auto on = [&editor](auto signal, auto action) {
+        QObject::connect(&editor, signal, &editor, action);
+    };
+    on(&ScintillaEditor::FindRequested,
+       [&](EditorCommand command) { CarryOut(command, state, editor); });
+    on(&ScintillaEditor::FocusReceived, [&] { FollowFocus(state, editor); });
+    on(&ScintillaEditor::OtherTextShown, [&] { TellTextReplaced(state, editor); });
+    on(&ScintillaEditor::TextIsLeaving, [&] { FindMarks::Remove(ScintillaText(editor)); });
 }
 
 } // namespace Quillbox

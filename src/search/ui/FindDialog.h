@@ -55,17 +55,4 @@ class FindDialog final : public QDialog {
     std::optional<std::int64_t> EmptyMatch_; ///< where a match without text was found last
 };
 
-/// Opens the dialog for `editor`.
-void ShowFindDialog(FindState &state, QsciScintillaBase &editor);
-
-/// Selects the next match of the last request in that direction; a notice in the editor tells what
-/// there is to tell while the dialog is closed. Opens the dialog when there is no term.
-void FindAgain(FindState &state, QsciScintillaBase &editor, FindDirection direction);
-
-/// `editor` has got the keyboard.
-void FollowFocus(FindState &state, QsciScintillaBase &editor);
-
-/// `editor` shows another text.
-void TellTextReplaced(const FindState &state, const QsciScintillaBase &editor);
-
 } // namespace Quillbox

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "search/ui/FindForm.h"
 
-#include "widgets/AnsiLineEdit.h"
 #include "search/ui/HistoryBox.h"
+#include "widgets/AnsiLineEdit.h"
 
 #include <QCheckBox>
 #include <QCoreApplication>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "search/ui/ScintillaReplace.h"
 
-#include "search/ReplacementText.h"
-#include "search/TextEdits.h"
 #include "editor/ui/ScintillaBulkEdit.h"
 #include "editor/ui/ScintillaPieces.h"
+#include "search/ReplacementText.h"
+#include "search/TextEdits.h"
 
 namespace Quillbox {
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "search/ui/FindState.h"
 #include "editor/ui/ScintillaText.h"
+#include "search/ui/FindState.h"
 
 namespace Quillbox {
 

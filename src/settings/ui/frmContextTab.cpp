@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/ui/frmContextTab.h"
 
-#include "widgets/frmControls.h"
 #include "base/CreditLine.h"
+#include "widgets/frmControls.h"
 
 #include <QCheckBox>
 #include <QGroupBox>

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/ui/frmEditorTab.h"
 
-#include "surfaces/Dialogs.h"
-#include "widgets/InstalledFamily.h"
 #include "settings/ItemAttributes.h"
 #include "settings/ui/frmChoiceList.h"
-#include "widgets/frmControls.h"
 #include "settings/ui/frmTabSizeBox.h"
+#include "surfaces/Dialogs.h"
+#include "widgets/InstalledFamily.h"
+#include "widgets/frmControls.h"
 
 #include <QCheckBox>
 #include <QFrame>

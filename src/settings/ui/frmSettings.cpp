@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/ui/frmSettings.h"
 
-#include "widgets/EventBoundary.h"
 #include "settings/ui/frmChoiceList.h"
 #include "settings/ui/frmContextTab.h"
-#include "widgets/frmControls.h"
 #include "settings/ui/frmEditorTab.h"
 #include "settings/ui/frmFoldersTab.h"
 #include "settings/ui/frmTabSizeBox.h"
+#include "widgets/EventBoundary.h"
+#include "widgets/frmControls.h"
 
 #include <QCheckBox>
 #include <QFrame>

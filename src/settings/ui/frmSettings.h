@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "settings/SettingsWindow.h"
 #include "settings/SettingsDialog.h"
+#include "settings/SettingsWindow.h"
 
 #include <QDialog>
 #include <QPointer>

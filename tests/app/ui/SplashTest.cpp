@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "widgets/QtEventLoop.h"
 #include "app/ui/frmLogo.h"
+#include "widgets/QtEventLoop.h"
 
 #include <QElapsedTimer>
 #include <QLabel>

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "fakes/PaintCounter.h"
-#include "surfaces/Dialogs.h"
-#include "search/ui/FindDialog.h"
 #include "editor/ui/LanguageCatalogue.h"
 #include "editor/ui/ScintillaEditor.h"
+#include "fakes/PaintCounter.h"
+#include "surfaces/Dialogs.h"
 
 #include <gtest/gtest.h>
 
@@ -55,7 +54,7 @@ class EditorTest : public testing::Test {
     }
 
     std::unique_ptr<ScintillaEditor> NewEditor() {
-        auto editor = std::make_unique<ScintillaEditor>(Languages, Find, Messages);
+        auto editor = std::make_unique<ScintillaEditor>(Languages, Messages);
         editor->SetLanguage(LanguageName);
         editor->resize(600, 400);
         return editor;
@@ -92,7 +91,6 @@ class EditorTest : public testing::Test {
 
     QTemporaryDir Folder;
     LanguageCatalogue Languages;
-    FindState Find;
     RecordingDialogs Messages;
     std::unique_ptr<ScintillaEditor> Editor;
 };

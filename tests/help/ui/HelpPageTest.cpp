@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "help/ui/HelpFolder.h"
 #include "fakes/UiProgram.h"
+#include "help/ui/HelpFolder.h"
 
 #include <QLabel>
 #include <QStatusBar>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "fakes/UiProgram.h"
 #include "media/ui/PictureFile.h"
 #include "media/ui/frmMuestraImagenes.h"
-#include "fakes/UiProgram.h"
 
 #include <QImage>
 #include <QLabel>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "state/Project.h"
+#include "fakes/UiProgram.h"
 #include "project/ui/frmEntryList.h"
 #include "project/ui/frmNewProject.h"
-#include "fakes/UiProgram.h"
+#include "state/Project.h"
 
 #include <QClipboard>
 #include <QDialog>

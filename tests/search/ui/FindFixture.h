@@ -2,8 +2,9 @@
 #pragma once
 
 #include "editor/ui/EditorFixture.h"
-
 #include "editor/ui/ScintillaMarks.h"
+#include "search/ui/FindCommands.h"
+#include "search/ui/FindDialog.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -19,9 +20,16 @@ namespace Quillbox::Test {
 class FindAndReplace : public EditorTest {
   protected:
     FindAndReplace() {
+        ConnectFinding(*Editor, Find);
         Window.resize(700, 500);
         Window.setCentralWidget(Editor.release());
         Window.show();
+    }
+
+    std::unique_ptr<ScintillaEditor> NewEditor() {
+        auto editor = EditorTest::NewEditor();
+        ConnectFinding(*editor, Find);
+        return editor;
     }
 
     ScintillaEditor &Code() const {
@@ -87,6 +95,7 @@ class FindAndReplace : public EditorTest {
         return marked;
     }
 
+    FindState Find;
     QMainWindow Window;
 };
 

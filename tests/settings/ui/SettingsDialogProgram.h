@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "settings/ui/frmSettings.h"
 #include "fakes/UiProgram.h"
+#include "settings/ui/frmSettings.h"
 
 #include <Qsci/qsciscintillabase.h>
 
