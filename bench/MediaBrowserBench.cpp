@@ -2,8 +2,8 @@
 #include "Report.h"
 #include "Workbench.h"
 
-#include "media/ui/frmFileList.h"
-#include "media/ui/frmFolderList.h"
+#include "media/ui/FileList.h"
+#include "media/ui/FolderList.h"
 #include "platform/SystemFolders.h"
 
 #include <QFile>

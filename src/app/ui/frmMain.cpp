@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/ui/frmMain.h"
 
-#include "app/ui/frmMainLists.h"
-#include "app/ui/frmMainTabs.h"
+#include "app/ui/DocumentTabs.h"
+#include "app/ui/NavigationBar.h"
+#include "documents/ui/DocumentArea.h"
 #include "documents/ui/frmDoc.h"
-#include "documents/ui/frmMainArea.h"
 #include "help/ui/frmAyuda.h"
 #include "widgets/EventBoundary.h"
 

@@ -2,9 +2,9 @@
 #include "app/ui/frmMain.h"
 
 #include "app/Toolbar.h"
-#include "app/ui/frmMainLists.h"
-#include "app/ui/frmMainTabs.h"
-#include "documents/ui/frmMainArea.h"
+#include "app/ui/DocumentTabs.h"
+#include "app/ui/NavigationBar.h"
+#include "documents/ui/DocumentArea.h"
 #include "help/ui/frmAyuda.h"
 #include "widgets/EventBoundary.h"
 

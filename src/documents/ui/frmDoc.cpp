@@ -2,7 +2,7 @@
 #include "documents/ui/frmDoc.h"
 
 #include "base/Twips.h"
-#include "documents/ui/frmMainArea.h"
+#include "documents/ui/DocumentArea.h"
 #include "editor/ui/ScintillaEditor.h"
 #include "search/ui/FindCommands.h"
 #include "state/DocumentRegistry.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "help/ui/frmAyuda.h"
 
-#include "documents/ui/frmMainArea.h"
-#include "help/ui/frmAyudaBrowser.h"
+#include "documents/ui/DocumentArea.h"
+#include "help/ui/HelpBrowser.h"
 #include "widgets/EventBoundary.h"
 
 #include <QCloseEvent>

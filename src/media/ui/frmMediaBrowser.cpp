@@ -2,10 +2,10 @@
 #include "media/ui/frmMediaBrowser.h"
 
 #include "media/FolderPaths.h"
+#include "media/ui/DriveList.h"
+#include "media/ui/FileList.h"
+#include "media/ui/FolderList.h"
 #include "media/ui/PictureFile.h"
-#include "media/ui/frmDriveList.h"
-#include "media/ui/frmFileList.h"
-#include "media/ui/frmFolderList.h"
 #include "media/ui/frmMuestraImagenes.h"
 #include "surfaces/Folders.h"
 #include "widgets/EventBoundary.h"

@@ -3,7 +3,7 @@
 
 #include "project/NewProject.h"
 #include "widgets/EventBoundary.h"
-#include "widgets/frmFields.h"
+#include "widgets/FormFields.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>

@@ -2,9 +2,9 @@
 #include "project/ui/frmToDoList.h"
 
 #include "project/ToDoList.h"
-#include "project/ui/frmEntryList.h"
+#include "project/ui/EntryList.h"
 #include "widgets/EventBoundary.h"
-#include "widgets/frmFields.h"
+#include "widgets/FormFields.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/ui/frmSettings.h"
 
-#include "settings/ui/frmChoiceList.h"
-#include "settings/ui/frmContextTab.h"
-#include "settings/ui/frmEditorTab.h"
-#include "settings/ui/frmFoldersTab.h"
-#include "settings/ui/frmTabSizeBox.h"
+#include "settings/ui/ChoiceList.h"
+#include "settings/ui/ContextTab.h"
+#include "settings/ui/EditorTab.h"
+#include "settings/ui/FoldersTab.h"
+#include "settings/ui/TabSizeBox.h"
 #include "widgets/EventBoundary.h"
-#include "widgets/frmControls.h"
+#include "widgets/NamedControls.h"
 
 #include <QCheckBox>
 #include <QFrame>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "help/ui/HelpFolder.h"
-#include "help/ui/frmAyudaImages.h"
+#include "help/ui/PageImages.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QClipboard>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "help/ui/frmAyudaBrowser.h"
+#include "help/ui/HelpBrowser.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fakes/FakeFolders.h"
 #include "fakes/UiProgram.h"
-#include "media/ui/frmDriveList.h"
-#include "media/ui/frmFileList.h"
-#include "media/ui/frmFolderList.h"
+#include "media/ui/DriveList.h"
+#include "media/ui/FileList.h"
+#include "media/ui/FolderList.h"
 
 #include <QLabel>
 #include <QPushButton>

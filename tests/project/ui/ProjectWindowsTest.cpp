@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fakes/UiProgram.h"
-#include "project/ui/frmEntryList.h"
+#include "project/ui/EntryList.h"
 #include "project/ui/frmNewProject.h"
 #include "state/Project.h"
 

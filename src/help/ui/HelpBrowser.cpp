@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "help/ui/frmAyudaBrowser.h"
+#include "help/ui/HelpBrowser.h"
 
 #include "base/Paths.h"
 #include "help/HelpPages.h"
+#include "help/ui/FindBar.h"
 #include "help/ui/LinkFocusStyle.h"
-#include "help/ui/frmAyudaFindBar.h"
-#include "help/ui/frmAyudaImages.h"
+#include "help/ui/PageImages.h"
 #include "platform/SystemFiles.h"
 
 #include <QAbstractTextDocumentLayout>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "media/ui/frmDriveList.h"
+#include "media/ui/DriveList.h"
 
 #include "media/FolderPaths.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "settings/ui/frmFoldersTab.h"
+#include "settings/ui/FoldersTab.h"
 
 #include "widgets/AnsiLineEdit.h"
-#include "widgets/frmControls.h"
+#include "widgets/NamedControls.h"
 
 #include <QGridLayout>
 #include <QGroupBox>

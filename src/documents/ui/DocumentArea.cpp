@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "documents/ui/frmMainArea.h"
+#include "documents/ui/DocumentArea.h"
 
 namespace Quillbox {
 

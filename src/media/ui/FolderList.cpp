@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "media/ui/frmFolderList.h"
+#include "media/ui/FolderList.h"
 
 #include "media/FolderPaths.h"
 #include "media/MediaFiles.h"

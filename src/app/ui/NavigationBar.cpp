@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/ui/frmMainLists.h"
+#include "app/ui/NavigationBar.h"
 
 #include <QComboBox>
 #include <QEvent>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "media/ui/frmFileList.h"
+#include "media/ui/FileList.h"
 
 #include "media/MediaFiles.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "widgets/frmFields.h"
+#include "widgets/FormFields.h"
 
 #include "widgets/AnsiLineEdit.h"
 

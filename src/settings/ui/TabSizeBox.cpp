@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "settings/ui/frmTabSizeBox.h"
+#include "settings/ui/TabSizeBox.h"
 
-#include "widgets/frmControls.h"
+#include "widgets/NamedControls.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/ui/frmMainTabs.h"
+#include "app/ui/DocumentTabs.h"
 
 #include <QSignalBlocker>
 

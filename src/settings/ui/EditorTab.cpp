@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "settings/ui/frmEditorTab.h"
+#include "settings/ui/EditorTab.h"
 
 #include "settings/ItemAttributes.h"
-#include "settings/ui/frmChoiceList.h"
-#include "settings/ui/frmTabSizeBox.h"
+#include "settings/ui/ChoiceList.h"
+#include "settings/ui/TabSizeBox.h"
 #include "surfaces/Dialogs.h"
 #include "widgets/InstalledFamily.h"
-#include "widgets/frmControls.h"
+#include "widgets/NamedControls.h"
 
 #include <QCheckBox>
 #include <QFrame>

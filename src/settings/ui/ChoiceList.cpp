@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "settings/ui/frmChoiceList.h"
+#include "settings/ui/ChoiceList.h"
 
 #include <QFocusEvent>
 

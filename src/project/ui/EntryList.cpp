@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "project/ui/frmEntryList.h"
+#include "project/ui/EntryList.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>

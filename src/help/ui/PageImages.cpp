@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "help/ui/frmAyudaImages.h"
+#include "help/ui/PageImages.h"
 
 #include <QBuffer>
 #include <QImageReader>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "help/ui/frmAyudaBrowser.h"
+#include "help/ui/HelpBrowser.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

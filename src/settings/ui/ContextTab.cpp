@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "settings/ui/frmContextTab.h"
+#include "settings/ui/ContextTab.h"
 
 #include "base/CreditLine.h"
-#include "widgets/frmControls.h"
+#include "widgets/NamedControls.h"
 
 #include <QCheckBox>
 #include <QGroupBox>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "help/ui/frmAyudaFindBar.h"
+#include "help/ui/FindBar.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
