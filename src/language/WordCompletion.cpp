@@ -45,11 +45,10 @@ void SortAndKeepEachOnce(Completions &completions) {
     std::ranges::stable_sort(completions, [&](const Completion &one, const Completion &other) {
         return compare(one, other) < 0;
     });
-    const auto repeated =
-        std::ranges::unique(completions, [&](const Completion &one, const Completion &other) {
-            return compare(one, other) == 0;
-        });
-    completions.erase(repeated.begin(), repeated.end());
+    const auto repeated = std::unique(
+        completions.begin(), completions.end(),
+        [&](const Completion &one, const Completion &other) { return compare(one, other) == 0; });
+    completions.erase(repeated, completions.end());
 }
 
 } // namespace
