@@ -2,6 +2,8 @@
 // Random bytes as a source text. Colouring it line by line, or again from any line on, gives the
 // colours that colouring it at once gives; the scanner's tables and lists say the same; and neither
 // takes longer than a second a megabyte.
+#include "Fuzz.h"
+
 #include "fakes/FakeEditor.h"
 #include "fakes/FakeMainWindow.h"
 #include "fakes/FakeSystem.h"
@@ -11,8 +13,6 @@
 #include "state/settings.h"
 
 #include <algorithm>
-#include <cstdint>
-#include <cstdlib>
 #include <ctime>
 
 using namespace Quillbox;
@@ -21,12 +21,7 @@ namespace {
 
 constexpr std::size_t TimedSize = 16 * 1024;
 constexpr double SecondsPerByte = 1e-6;
-constexpr int TimedTries = 5; ///< another program may take the processor's caches meanwhile
-
-void Require(bool holds) {
-    if (!holds)
-        std::abort();
-}
+constexpr int TimedTries = 50; ///< other programs may hold the processor up for some of them
 
 LanguageDefinition Language() {
     LanguageDefinition language;

@@ -1,0 +1,4 @@
+[Proyecto]
+Titulo="'doble'"
+Autor=" con blancos "
+ToDoList="a|1"

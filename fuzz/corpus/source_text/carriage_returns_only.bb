@@ -1,0 +1,1 @@
+Function uno()End FunctionFunction dos()

@@ -1,0 +1,3 @@
+a$ = "// nada" + "/* nada" /* aquí
+sigue "todo */ Print a // fin
+/* sin cerrar "

@@ -1,0 +1,4 @@
+process ovni(int x, y)
+begin
+  loop frame; end
+end

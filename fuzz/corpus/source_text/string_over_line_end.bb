@@ -1,0 +1,3 @@
+Print "abierta
+Print 2
+"
