@@ -5,8 +5,8 @@
 
 namespace Quillbox {
 
-/// What is wrong with a regular expression and where, in Spanish. `message` is what the engine
-/// says, `offset` the place in characters, 0-based.
-QString ExpressionProblem(const QString &message, qsizetype offset);
+/// The sentence that tells what is wrong with a regular expression and where. `reason` is what the
+/// engine says, in the Spanish of "quillbox_es"; `offset` the place in characters, 0-based.
+QString ExpressionProblem(const QString &reason, qsizetype offset);
 
 } // namespace Quillbox

@@ -190,9 +190,8 @@ MadeSearch MakeExpressionSearch(const FindRequest &request, std::chrono::millise
         const QRegularExpression words(
             WordEdge + QStringLiteral("(?:") + request.Term + end + WordEdge, options);
         if (!words.isValid())
-            return BadExpression{QCoreApplication::translate(
-                "Quillbox::ExpressionSearch", "Esta expresión no se puede combinar con «Palabra "
-                                              "completa».")};
+            return BadExpression{
+                QStringLiteral("Esta expresión no se puede combinar con «Palabra completa».")};
         expression = words;
     }
     return std::make_unique<ExpressionSearch>(std::move(expression), timeLimit);

@@ -7,12 +7,16 @@
 
 namespace Quillbox {
 
+/// Of two translators that know a text, the one that came last is heard.
 SpanishInterface::SpanishInterface(const QString &appDir) {
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
+    const QString folder = appDir + QStringLiteral("translations");
     const QString name = QStringLiteral("qtbase_es");
-    if (Translator_.load(name, appDir + QStringLiteral("translations")) ||
-        Translator_.load(name, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(&Translator_);
+    if (Qts_.load(name, folder) ||
+        Qts_.load(name, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&Qts_);
+    if (Own_.load(QStringLiteral("quillbox_es"), folder))
+        QCoreApplication::installTranslator(&Own_);
 }
 
 } // namespace Quillbox

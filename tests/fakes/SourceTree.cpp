@@ -5,4 +5,6 @@ namespace Quillbox {
 
 std::filesystem::path SourceTree() { return QUILLBOX_SOURCE_TREE; }
 
+std::filesystem::path BuiltProgram() { return QUILLBOX_PROGRAM_DIR; }
+
 } // namespace Quillbox

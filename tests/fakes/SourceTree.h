@@ -9,4 +9,7 @@ namespace Quillbox {
 /// in it.
 std::filesystem::path SourceTree();
 
+/// The folder of the program that was built with the tests. Its Spanish texts are there.
+std::filesystem::path BuiltProgram();
+
 } // namespace Quillbox

@@ -3,8 +3,10 @@
 
 #include "editor/ui/EditorFixture.h"
 #include "editor/ui/ScintillaMarks.h"
+#include "fakes/SourceTree.h"
 #include "search/ui/FindCommands.h"
 #include "search/ui/FindDialog.h"
+#include "widgets/SpanishInterface.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -95,6 +97,8 @@ class FindAndReplace : public EditorTest {
         return marked;
     }
 
+    const SpanishInterface Spanish{
+        QString::fromStdString((BuiltProgram() / "").string())}; ///< says what is wrong
     FindState Find;
     QMainWindow Window;
 };
