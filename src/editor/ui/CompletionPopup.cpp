@@ -78,7 +78,7 @@ CompletionPopup::CompletionPopup(QWidget *parent)
 
 void CompletionPopup::Build() {
     List_->setObjectName(QStringLiteral("lstPalabras"));
-    List_->setAccessibleName(tr("Palabras que completan lo escrito"));
+    List_->setAccessibleName(QStringLiteral("Palabras que completan lo escrito"));
     List_->setModel(Model_);
     List_->setFocusPolicy(Qt::NoFocus);
     List_->setFrameShape(QFrame::NoFrame);

@@ -37,18 +37,19 @@ GoToLineDialog::GoToLineDialog(LineNumber current, int lineCount, QWidget *paren
     , Line_(new QLineEdit(QString::number(current.Value), this))
     , Hint_(new QLabel(this)) {
     setObjectName(QStringLiteral("frmIrALinea"));
-    setWindowTitle(tr("Ir a la línea"));
+    setWindowTitle(QStringLiteral("Ir a la línea"));
     Line_->setObjectName(QStringLiteral("txtLinea"));
     Line_->setMinimumWidth(FieldCharacters * fontMetrics().averageCharWidth());
     Line_->selectAll();
-    auto *label = new QLabel(tr("&Línea de 1 a %1, o línea:columna:").arg(lineCount), this);
+    auto *label =
+        new QLabel(QStringLiteral("&Línea de 1 a %1, o línea:columna:").arg(lineCount), this);
     label->setObjectName(QStringLiteral("lblLinea"));
     label->setBuddy(Line_);
     Hint_->setObjectName(QStringLiteral("lblAviso"));
     Hint_->setWordWrap(true);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    buttons->button(QDialogButtonBox::Ok)->setText(tr("&Ir"));
-    buttons->button(QDialogButtonBox::Cancel)->setText(tr("&Cancelar"));
+    buttons->button(QDialogButtonBox::Ok)->setText(QStringLiteral("&Ir"));
+    buttons->button(QDialogButtonBox::Cancel)->setText(QStringLiteral("&Cancelar"));
     connect(buttons, &QDialogButtonBox::accepted, this, &GoToLineDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &GoToLineDialog::reject);
     connect(Line_, &QLineEdit::textEdited, Hint_, &QLabel::clear);
@@ -62,7 +63,7 @@ GoToLineDialog::GoToLineDialog(LineNumber current, int lineCount, QWidget *paren
 void GoToLineDialog::accept() {
     const std::optional<TextPosition> target = ReadLineRequest(Line_->text(), LineCount_);
     if (!target)
-        return ShowHint(tr("Escribe un número de línea, por ejemplo 12 o 12:5."));
+        return ShowHint(QStringLiteral("Escribe un número de línea, por ejemplo 12 o 12:5."));
     Target_ = *target;
     QDialog::accept();
 }

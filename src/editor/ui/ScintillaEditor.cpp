@@ -47,7 +47,8 @@ ScintillaEditor::ScintillaEditor(const LanguageCatalogue &languages, Dialogs &di
     , BulkSteps_(*this)
     , Colouring_(Text_) {
     new ScintillaAccessibility(*this, *new ScintillaOffsets(*this));
-    setAccessibleName(tr("Editor de código")); // tells assistive tools, which then look at it
+    // Tells assistive tools, which then look at it.
+    setAccessibleName(QStringLiteral("Editor de código"));
     // Without this, each blink of the caret would paint the window behind the editor as well.
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     SetUpControl();

@@ -8,7 +8,8 @@ namespace Quillbox {
 bool ScintillaEditor::OpenFile(const QString &path) {
     const std::optional<FileError> error = LoadAnsiFile(Text_, path, [this] { SetUpDocument(); });
     if (error) {
-        ShowError(tr("No se ha podido abrir el archivo %1.\n%2").arg(path, error->Text));
+        ShowError(
+            QStringLiteral("No se ha podido abrir el archivo %1.\n%2").arg(path, error->Text));
         return false;
     }
     Colouring_.TextReplaced();
@@ -26,14 +27,16 @@ bool ScintillaEditor::SaveFile(const QString &path) {
 }
 
 void ScintillaEditor::TellSaveFailure(const QString &path, const FileError &error) {
-    QString text = tr("No se ha podido guardar el archivo %1.\n%2").arg(path, error.Text);
+    QString text =
+        QStringLiteral("No se ha podido guardar el archivo %1.\n%2").arg(path, error.Text);
     if (const std::optional<QString> copy = SaveRescueCopy(Text_, path))
-        text += tr("\n\nHay una copia del texto en %1.").arg(*copy);
+        text += QStringLiteral("\n\nHay una copia del texto en %1.").arg(*copy);
     ShowError(text);
 }
 
 void ScintillaEditor::ShowError(const QString &text) {
-    Dialogs_.ShowMessage({text, tr("Error"), MessageIcon::Critical, MessageButtons::Ok});
+    Dialogs_.ShowMessage(
+        {text, QStringLiteral("Error"), MessageIcon::Critical, MessageButtons::Ok});
 }
 
 bool ScintillaEditor::IsModified() const { return Text_.Send(SCI_GETMODIFY) != 0; }

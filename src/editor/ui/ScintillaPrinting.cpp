@@ -3,7 +3,6 @@
 
 #include "editor/ui/ScintillaEditor.h"
 
-#include <QCoreApplication>
 #include <QPaintEngine>
 #include <QPainter>
 #include <QPrintPreviewDialog>
@@ -14,8 +13,6 @@
 namespace Quillbox {
 
 namespace {
-
-QString Translated(const char *text) { return QCoreApplication::translate("EditorPrinter", text); }
 
 /// A page of A4 and the tools above it, on a screen that has room for them.
 constexpr QSize PreviewSize(860, 900);
@@ -37,7 +34,7 @@ void EditorPrinter::formatPage(QPainter &painter, bool drawing, QRect &area, int
     const int headerHeight = metrics.height();
     if (drawing) {
         PageCount_ = std::max(PageCount_, pageNumber);
-        const QString page = Translated("Página %1").arg(pageNumber);
+        const QString page = QStringLiteral("Página %1").arg(pageNumber);
         const QRect header(area.left(), area.top(), area.width(), headerHeight);
         const int nameWidth = header.width() - metrics.horizontalAdvance(page) - headerHeight;
         painter.setFont(QFont());
@@ -54,7 +51,7 @@ void ShowPrintPreview(ScintillaEditor &editor, const QString &fileName) {
     EditorPrinter printer(fileName);
     QPrintPreviewDialog preview(&printer, editor.window());
     preview.setObjectName(QStringLiteral("frmVistaPrevia"));
-    preview.setWindowTitle(Translated("Imprimir %1").arg(fileName));
+    preview.setWindowTitle(QStringLiteral("Imprimir %1").arg(fileName));
     preview.resize(PreviewSize.boundedTo(editor.screen()->availableSize() * 0.9));
     QObject::connect(&preview, &QPrintPreviewDialog::paintRequested, &editor, [&] {
         editor.PrintOn(printer, IsPreview(printer) ? MostPreviewLines : editor.LineCount());

@@ -125,11 +125,13 @@ QString FindCount::Text() const {
     if (!IsKnown_ || !Editor_)
         return {};
     if (Count_ == 0)
-        return tr("Sin coincidencias");
-    const QString count = IsComplete_ ? Shown(Count_) : tr("más de %1").arg(Shown(Count_));
+        return QStringLiteral("Sin coincidencias");
+    const QString count =
+        IsComplete_ ? Shown(Count_) : QStringLiteral("más de %1").arg(Shown(Count_));
     if (const QString number = NumberOfSelection(); !number.isEmpty())
-        return tr("%1 de %2").arg(number, count);
-    return count == u'1' ? tr("1 coincidencia") : tr("%1 coincidencias").arg(count);
+        return QStringLiteral("%1 de %2").arg(number, count);
+    return count == u'1' ? QStringLiteral("1 coincidencia")
+                         : QStringLiteral("%1 coincidencias").arg(count);
 }
 
 } // namespace Quillbox

@@ -41,7 +41,7 @@ FindDialog::FindDialog(FindState &state, QWidget *parent)
     , Form_(BuildFindForm(*this))
     , Target_(this) {
     setObjectName(QStringLiteral("frmBuscarReemplazar"));
-    setWindowTitle(tr("Buscar y reemplazar"));
+    setWindowTitle(QStringLiteral("Buscar y reemplazar"));
     Connect();
     FieldsChanged();
 }
@@ -134,7 +134,7 @@ void FindDialog::LimitClicked(bool limited) {
     if (!limited)
         Target_.Unlimit();
     else if (!Target_.LimitToSelection())
-        ShowResult(tr("No hay texto seleccionado."));
+        ShowResult(QStringLiteral("No hay texto seleccionado."));
     ShowLimit();
 }
 
@@ -149,7 +149,7 @@ bool FindDialog::ReadFields() {
     RememberText(State_.Terms, State_.Request.Term);
     Form_.Term->SetHistory(State_.Terms);
     const bool showsDocument = ShowsDocument();
-    ShowResult(showsDocument ? QString() : tr("No hay ningún documento a la vista."));
+    ShowResult(showsDocument ? QString() : QStringLiteral("No hay ningún documento a la vista."));
     return showsDocument && !State_.Request.Term.isEmpty();
 }
 

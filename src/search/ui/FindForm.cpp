@@ -5,7 +5,6 @@
 #include "widgets/AnsiLineEdit.h"
 
 #include <QCheckBox>
-#include <QCoreApplication>
 #include <QDialog>
 #include <QGridLayout>
 #include <QLabel>
@@ -15,10 +14,6 @@
 namespace Quillbox {
 
 namespace {
-
-QString Translated(const char *text) {
-    return QCoreApplication::translate("Quillbox::FindForm", text);
-}
 
 class Builder {
   public:
@@ -38,7 +33,7 @@ class Builder {
         auto *box = new HistoryBox(&Dialog_);
         box->setObjectName(QStringLiteral("cmb") + QLatin1String(name));
         box->lineEdit()->setObjectName(QStringLiteral("txt") + QLatin1String(name));
-        auto *label = new QLabel(Translated(caption), &Dialog_);
+        auto *label = new QLabel(QString::fromUtf8(caption), &Dialog_);
         label->setBuddy(box);
         const int row = Grid_.rowCount();
         Grid_.addWidget(label, row, 0);
@@ -47,16 +42,16 @@ class Builder {
     }
 
     QCheckBox *AddCheck(const char *name, const char *caption, const char *toolTip = "") {
-        auto *check = new QCheckBox(Translated(caption), &Dialog_);
+        auto *check = new QCheckBox(QString::fromUtf8(caption), &Dialog_);
         check->setObjectName(QLatin1String(name));
-        check->setToolTip(*toolTip == '\0' ? QString() : Translated(toolTip));
+        check->setToolTip(QString::fromUtf8(toolTip));
         Grid_.addWidget(check, Grid_.rowCount(), 1);
         return check;
     }
 
     /// A click leaves the keyboard where it is, so that the next term can be typed at once.
     QPushButton *AddButton(const char *name, const char *caption) {
-        auto *button = new QPushButton(Translated(caption), &Dialog_);
+        auto *button = new QPushButton(QString::fromUtf8(caption), &Dialog_);
         button->setObjectName(QLatin1String(name));
         button->setAutoDefault(false);
         button->setFocusPolicy(Qt::TabFocus);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "search/ui/FindMessages.h"
 
-#include <QCoreApplication>
 #include <QLocale>
 
 namespace Quillbox {
@@ -10,16 +9,12 @@ namespace {
 
 constexpr qsizetype LongestShownTerm = 60;
 
-QString Translated(const char *text) {
-    return QCoreApplication::translate("Quillbox::FindMessages", text);
-}
-
 QString NotFound(const FindTask &task) {
     const QString &term = task.Request.Term;
     const QString shown =
         term.size() <= LongestShownTerm ? term : term.left(LongestShownTerm) + u'…';
-    return (task.Scope ? Translated("No se encuentra «%1» en la selección.")
-                       : Translated("No se encuentra «%1»."))
+    return (task.Scope ? QStringLiteral("No se encuentra «%1» en la selección.")
+                       : QStringLiteral("No se encuentra «%1»."))
         .arg(shown);
 }
 
@@ -32,21 +27,21 @@ QString MessageOf(const FindOutcome &outcome, const FindTask &task, FindDirectio
     if (!outcome.Match && task.Wrap)
         return NotFound(task);
     if (!outcome.Match)
-        return forward ? Translated("No hay más coincidencias hasta el final.")
-                       : Translated("No hay más coincidencias hasta el principio.");
+        return forward ? QStringLiteral("No hay más coincidencias hasta el final.")
+                       : QStringLiteral("No hay más coincidencias hasta el principio.");
     QStringList parts;
     if (outcome.Wrapped)
-        parts += forward ? Translated("Se llegó al final; se sigue desde el principio.")
-                         : Translated("Se llegó al principio; se sigue desde el final.");
+        parts += forward ? QStringLiteral("Se llegó al final; se sigue desde el principio.")
+                         : QStringLiteral("Se llegó al principio; se sigue desde el final.");
     if (outcome.Match->Start == outcome.Match->End)
-        parts += Translated("La coincidencia no tiene texto.");
+        parts += QStringLiteral("La coincidencia no tiene texto.");
     return parts.join(u' ');
 }
 
 QString MessageOf(const Replaced &replaced, const FindTask &task) {
     const bool isLast =
         replaced.Selection && replaced.Next.Problem.isEmpty() && !replaced.Next.Match;
-    return isLast ? Translated("No quedan más coincidencias.")
+    return isLast ? QStringLiteral("No quedan más coincidencias.")
                   : MessageOf(replaced.Next, task, FindDirection::Forward);
 }
 
@@ -56,9 +51,9 @@ QString MessageOf(const ReplacedAll &replaced, const FindTask &task) {
     if (replaced.Count == 0)
         return NotFound(task);
     if (replaced.Count == 1)
-        return Translated("Se ha reemplazado 1 coincidencia.");
+        return QStringLiteral("Se ha reemplazado 1 coincidencia.");
     const QLocale spanish(QLocale::Spanish, QLocale::Spain);
-    return Translated("Se han reemplazado %1 coincidencias.")
+    return QStringLiteral("Se han reemplazado %1 coincidencias.")
         .arg(spanish.toString(static_cast<qulonglong>(replaced.Count)));
 }
 

@@ -3,8 +3,6 @@
 
 #include "editor/ui/ScintillaPieces.h"
 
-#include <QCoreApplication>
-
 namespace Quillbox {
 
 namespace {
@@ -119,8 +117,7 @@ std::chrono::milliseconds LongestSearch(const ScintillaText &text) {
 }
 
 QString TooCostlyProblem() {
-    return QCoreApplication::translate("Quillbox::ScintillaSearch",
-                                       "La expresión es demasiado costosa para este texto.");
+    return QStringLiteral("La expresión es demasiado costosa para este texto.");
 }
 
 MovingRange RangeOf(const FindTask &task, const ScintillaText &text) {
