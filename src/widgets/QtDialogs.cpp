@@ -3,6 +3,7 @@
 
 #include "base/Paths.h"
 #include "widgets/AnsiLineEdit.h"
+#include "widgets/FileColumns.h"
 #include "widgets/InstalledFamily.h"
 
 #include <QApplication>
@@ -12,12 +13,17 @@
 #include <QFileIconProvider>
 #include <QFileInfo>
 #include <QFontDialog>
+#include <QHeaderView>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QTreeView>
 
 namespace Quillbox {
 namespace {
+
+constexpr QSize ChooserSize(760, 460);
+constexpr int InputBoxWidth = 460;
 
 QMessageBox::Icon IconOf(MessageIcon icon) {
     switch (icon) {
@@ -100,6 +106,15 @@ QString ProposedName(const QString &name) {
     return file.isDir() ? QString() : file.fileName();
 }
 
+/// The names of the files take what the others leave: every size, type and date can be read whole.
+void ShowWholeColumns(QFileDialog &dialog) {
+    QHeaderView *header = dialog.findChild<QTreeView *>(QStringLiteral("treeView"))->header();
+    header->setStretchLastSection(false);
+    header->setSectionResizeMode(QHeaderView::ResizeToContents);
+    header->setSectionResizeMode(0, QHeaderView::Stretch);
+    dialog.resize(dialog.size().expandedTo(ChooserSize));
+}
+
 /// Runs the chooser and remembers where the person went.
 std::optional<QString> Choose(QFileDialog &dialog, const FileChooser &chooser,
                               QString &lastFolder) {
@@ -109,6 +124,8 @@ std::optional<QString> Choose(QFileDialog &dialog, const FileChooser &chooser,
     SetFilter(dialog, chooser.Filter);
     static SpanishFileTypes fileTypes; // the dialog's thread asks it until the dialog is gone
     dialog.setIconProvider(&fileTypes);
+    dialog.setProxyModel(new FileColumns(&dialog));
+    ShowWholeColumns(dialog);
     const QString folder = StartFolder(chooser, lastFolder);
     if (!folder.isEmpty())
         dialog.setDirectory(folder);
@@ -119,8 +136,6 @@ std::optional<QString> Choose(QFileDialog &dialog, const FileChooser &chooser,
     lastFolder = QFileInfo(chosen).absolutePath(); // not the dialog's: a path may have been typed
     return QDir::toNativeSeparators(chosen);
 }
-
-constexpr int InputBoxWidth = 460;
 
 } // namespace
 

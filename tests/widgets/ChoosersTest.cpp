@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "widgets/FileColumns.h"
 #include "widgets/QtDialogs.h"
 
 #include <QApplication>
 #include <QColorDialog>
 #include <QComboBox>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
@@ -13,6 +15,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
 #include <gtest/gtest.h>
 
 namespace Quillbox {
@@ -141,6 +144,34 @@ TEST_F(Choosers, OfAFileListWhatTheFilterNamesInAnyLetterCase) {
         ASSERT_EQ(list->model()->rowCount(list->rootIndex()), 1);
         EXPECT_EQ(list->model()->index(0, 0, list->rootIndex()).data().toString(),
                   QStringLiteral("fxc.exe"));
+    });
+}
+
+TEST_F(Choosers, OfAFileWriteSizesAndDatesAsInSpain) {
+    EXPECT_EQ(FileSizeText(812), QStringLiteral("812 bytes"));
+    EXPECT_EQ(FileSizeText(12'300), QStringLiteral("12 kB"));
+    EXPECT_EQ(FileSizeText(1'532'000), QStringLiteral("1,5 MB"));
+    EXPECT_EQ(FileTimeText(QDateTime({2026, 3, 1}, {9, 5})), QStringLiteral("01/03/2026 09:05"));
+}
+
+TEST_F(Choosers, OfAFileShowTheSizeTheTypeAndTheDateWhole) {
+    QFile file(Write(QStringLiteral("fxc.exe")));
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(file.resize(1'532'000));
+    ASSERT_TRUE(
+        file.setFileTime(QDateTime({2026, 11, 21}, {14, 5}), QFileDevice::FileModificationTime));
+    file.close();
+    Open(From(PathOf(QStringLiteral("x"))), [](QFileDialog &dialog) {
+        auto *list = dialog.findChild<QTreeView *>(QStringLiteral("treeView"));
+        ASSERT_TRUE(
+            QTest::qWaitFor([&] { return list->model()->rowCount(list->rootIndex()) == 1; }));
+        const QStringList texts{QStringLiteral("1,5 MB"), QStringLiteral("Archivo EXE"),
+                                QStringLiteral("21/11/2026 14:05")};
+        for (int column = 1; column <= texts.size(); ++column) {
+            const QModelIndex cell = list->model()->index(0, column, list->rootIndex());
+            EXPECT_EQ(cell.data().toString(), texts[column - 1]);
+            EXPECT_GE(list->visualRect(cell).width(), list->sizeHintForIndex(cell).width());
+        }
     });
 }
 
