@@ -18,4 +18,5 @@ int main(int argc, char **argv) {
     QMessageBox notice(QMessageBox::Information, "Quillbox", text);
     notice.setObjectName("RunNotice");
     notice.exec();
+    return 0;
 }

@@ -4,7 +4,6 @@
 #include "app/ui/frmLogo.h"
 #include "base/AppDir.h"
 #include "platform/ProfileFiles.h"
-#include "platform/ProgramFolder.h"
 #include "platform/SystemConsoleProcess.h"
 #include "platform/SystemFiles.h"
 #include "platform/SystemFolders.h"
@@ -38,7 +37,7 @@ int Run() {
     QApplication::setStyle(new PlainButtonStyle);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/quillbox.svg")));
 
-    const QString appDir = AppDirOf(ProgramFolder());
+    const QString appDir = AppDirOf(QApplication::applicationDirPath());
     const SpanishInterface spanish(appDir);
     SystemFiles files;
     ProfileFiles profile;

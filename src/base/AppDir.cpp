@@ -3,9 +3,13 @@
 
 #include "base/Paths.h"
 
+#include <QDir>
+
 namespace Quillbox {
 
-QString AppDirOf(const QString &programFolder) { return programFolder + PathSeparator; }
+QString AppDirOf(const QString &programFolder) {
+    return QDir::toNativeSeparators(programFolder) + PathSeparator;
+}
 
 QString HelpPagePath(const QString &appDir, const QString &page) {
     return appDir + QStringLiteral("Ayuda") + PathSeparator + page;

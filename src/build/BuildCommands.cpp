@@ -78,8 +78,8 @@ void BuildCommands::mnuPrograma_CrearEXE_Click() {
 
 /// A fixed text that the compiler expects, whatever the settings say.
 void BuildCommands::SetCompilerPath() {
-    Parts_.Launcher.SetEnvironmentVariable(QStringLiteral("blitzpath"),
-                                           QStringLiteral("C:\\Archivos de programa\\Blitz3D\\"));
+    Parts_.Launcher.SetVariable(QStringLiteral("blitzpath"),
+                                QStringLiteral("C:\\Archivos de programa\\Blitz3D\\"));
 }
 
 /// An untitled document is always asked for a name. Who cancels that goes on with the untitled one.

@@ -27,7 +27,7 @@ QString ExecCmd(const QString &commandLine, ConsoleProcess &console, EventLoop &
     if (!pipe)
         return Failure("CreatePipe", console);
     pump();
-    const auto process = console.CreateProcess(commandLine, pipe->WriteEnd);
+    const auto process = console.StartProcess(commandLine, pipe->WriteEnd);
     pump();
     if (!process)
         return Failure("CreateProcess", console);

@@ -143,7 +143,7 @@ void SymbolScanner::RecordType(const QString &text, int line, int &count) {
 }
 
 bool SymbolScanner::YieldedWithDocument() {
-    EventLoop_.Yield();
+    EventLoop_.GiveWay();
     return Registry_.CurrentIndex != 0;
 }
 

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/FileErrors.h"
+
 #include <QByteArray>
-#include <QString>
 
 #include <cstddef>
 #include <functional>
@@ -11,21 +12,18 @@
 
 namespace Quillbox {
 
-/// Why a file could not be read or written.
-struct FileError {
-    int Code;     ///< the system's error number
-    QString Text; ///< Spanish sentence without the file's name, ready for a message box
-};
-
 /// Takes the next bytes of a file; false when they could not be written, which ends the producing.
 using ByteSink = std::function<bool(std::string_view)>;
 /// Hands the whole content of a file to the sink, piece by piece.
 using ByteProducer = std::function<void(const ByteSink &)>;
 
 /// Replaces the content of the file at `path` (already a path of the system) or creates it.
-/// Afterwards the name holds either all old or all new bytes, whatever fails. Mode, symbolic links
-/// and hard links stay. A file or folder that is write-protected is refused. Empty on success.
-std::optional<FileError> ReplaceFile(const QString &path, const ByteProducer &produce);
+/// Afterwards the name holds either all old or all new bytes, whatever fails: new content is
+/// written beside the file, flushed and moved over it, which keeps mode, owner, symbolic links and
+/// hard links (QSaveFile tears hard links apart and does not flush the folder). A file or folder
+/// that is write-protected is refused. Empty on success.
+std::optional<FileError> ReplaceContent(const QString &path, const ByteProducer &produce);
+std::optional<FileError> ReplaceContent(const QString &path, const QByteArray &content);
 
 /// Takes the next bytes of a file. `fileSize` is the file's size in bytes as it was before reading
 /// began, the same with every piece: room can be made for the whole file at the first one.

@@ -12,8 +12,8 @@ namespace Quillbox {
 class SystemConsoleProcess : public ConsoleProcess {
   public:
     std::optional<PipeHandles> CreatePipe(std::size_t size) override;
-    std::optional<ProcessHandles> CreateProcess(const QString &commandLine,
-                                                SystemHandle standardOutput) override;
+    std::optional<ProcessHandles> StartProcess(const QString &commandLine,
+                                               SystemHandle standardOutput) override;
     void WaitForProcess(SystemHandle process) override;
     std::optional<QByteArray> ReadFile(SystemHandle readEnd, std::size_t capacity) override;
     void CloseHandle(SystemHandle handle) override;

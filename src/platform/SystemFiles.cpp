@@ -9,15 +9,6 @@
 
 namespace Quillbox {
 
-std::optional<FileError> ReadWholeFile(const QString &path, QByteArray &content) {
-    content.clear();
-    return ReadFileBytes(path, [&content](std::string_view piece, std::size_t fileSize) {
-        if (content.isEmpty())
-            content.reserve(static_cast<qsizetype>(fileSize));
-        content.append(piece.data(), static_cast<qsizetype>(piece.size()));
-    });
-}
-
 bool SystemFiles::CanRead(const QString &path) {
     const QString systemPath = SystemPath(path);
     // Opening anything but a file may wait for ever, as a named pipe does.
@@ -32,8 +23,7 @@ std::optional<QByteArray> SystemFiles::Read(const QString &path) {
 }
 
 bool SystemFiles::Write(const QString &path, const QByteArray &content) {
-    const std::string_view bytes(content.constData(), static_cast<std::size_t>(content.size()));
-    return !ReplaceFile(SystemPath(path), [bytes](const ByteSink &sink) { sink(bytes); });
+    return !ReplaceContent(SystemPath(path), content);
 }
 
 } // namespace Quillbox

@@ -10,7 +10,7 @@ class SystemFiles : public Files {
   public:
     bool CanRead(const QString &path) override;
     std::optional<QByteArray> Read(const QString &path) override;
-    /// The file holds all old or all new bytes afterwards (see ReplaceFile).
+    /// The file holds all old or all new bytes afterwards (see ReplaceContent).
     bool Write(const QString &path, const QByteArray &content) override;
 };
 

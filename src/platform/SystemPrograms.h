@@ -10,7 +10,7 @@ class SystemPrograms : public Programs {
   public:
     void Start(const QString &commandLine, WindowStyle style) override;
     void OpenAddress(const QString &address) override;
-    void SetEnvironmentVariable(const QString &name, const QString &value) override;
+    void SetVariable(const QString &name, const QString &value) override;
 };
 
 } // namespace Quillbox

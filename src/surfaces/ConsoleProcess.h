@@ -34,8 +34,8 @@ class ConsoleProcess {
     /// input and no standard error, in the current folder with the current environment. The first
     /// word, quoted or not, is the program; without a folder it is looked for beside this program,
     /// in the current folder and on the search path. Empty on failure.
-    virtual std::optional<ProcessHandles> CreateProcess(const QString &commandLine,
-                                                        SystemHandle standardOutput) = 0;
+    virtual std::optional<ProcessHandles> StartProcess(const QString &commandLine,
+                                                       SystemHandle standardOutput) = 0;
     /// Returns when the process has ended, however long that takes.
     virtual void WaitForProcess(SystemHandle process) = 0;
     /// One read of at most `capacity` bytes that waits until there is something to read. Empty on

@@ -14,7 +14,7 @@ class EventLoop {
     /// Handles the waiting events except what the person did, so that changes show at once.
     virtual void ProcessWindowEvents() = 0;
     /// Gives up the rest of the time slice without handling events.
-    virtual void Yield() = 0;
+    virtual void GiveWay() = 0;
     /// The state of a Ctrl key at this moment.
     virtual bool IsCtrlDown() = 0;
 };

@@ -21,7 +21,7 @@ class Programs {
     /// Hands a web or mail address to the person's own program for it; errors as in Start.
     virtual void OpenAddress(const QString &address) = 0;
     /// Sets a variable of this process, which every later child inherits.
-    virtual void SetEnvironmentVariable(const QString &name, const QString &value) = 0;
+    virtual void SetVariable(const QString &name, const QString &value) = 0;
 };
 
 } // namespace Quillbox

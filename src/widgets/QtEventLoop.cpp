@@ -13,7 +13,7 @@ void QtEventLoop::ProcessWindowEvents() {
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
-void QtEventLoop::Yield() {
+void QtEventLoop::GiveWay() {
     if (++Calls_ % 64 != 0 || (SinceYield_.isValid() && SinceYield_.elapsed() < 1))
         return;
     QThread::yieldCurrentThread();

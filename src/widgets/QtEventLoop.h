@@ -14,7 +14,7 @@ class QtEventLoop final : public EventLoop {
     /// Gives up the time slice once a millisecond: a second call within one has nothing left to
     /// give up. The clock is read at every 64th call only, since it costs more than what is done
     /// between.
-    void Yield() override;
+    void GiveWay() override;
     bool IsCtrlDown() override;
 
   private:

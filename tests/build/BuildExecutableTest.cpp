@@ -29,8 +29,8 @@ TEST_F(BuildingAnExecutable, AsksThenSavesThenSetsTheVariableThenCompiles) {
             AskForName,                     //
             "editor.SaveFile /j/juego.prg", // the active document
             "editor.SaveFile /j/juego.prg", // then all that have a name
-            "programs.SetEnvironmentVariable blitzpath C:\\Archivos de programa\\Blitz3D\\",
-            "console.CreateProcess C:\\fenix\\fxc.exe -o \"/j/mi juego.exe\" \"/j/juego.prg\" 4",
+            "programs.SetVariable blitzpath C:\\Archivos de programa\\Blitz3D\\",
+            "console.StartProcess C:\\fenix\\fxc.exe -o \"/j/mi juego.exe\" \"/j/juego.prg\" 4",
             "main.SetLog Listo", "files.Write " + LogFile.toStdString(),
             "files.Read " + LogFile.toStdString()));
 }

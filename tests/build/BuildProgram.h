@@ -28,7 +28,7 @@ class BuildProgram : public FakeProgram {
 
     /// What the commands ask for, without the steps inside the process runner.
     std::vector<std::string> Steps() const {
-        return Log.CallsOf({"programs.", "editor.", "dialogs.", "console.CreateProcess",
+        return Log.CallsOf({"programs.", "editor.", "dialogs.", "console.StartProcess",
                             "main.SetLog", "files.", "window.SetCaption"});
     }
     std::vector<std::string> CommandLines() const {

@@ -11,8 +11,8 @@ using testing::Not;
 using testing::StartsWith;
 
 const std::string SetBlitzPath =
-    "programs.SetEnvironmentVariable blitzpath C:\\Archivos de programa\\Blitz3D\\";
-const std::string CompileGame = "console.CreateProcess C:\\fenix\\fxc.exe \"/j/juego.prg\" 4";
+    "programs.SetVariable blitzpath C:\\Archivos de programa\\Blitz3D\\";
+const std::string CompileGame = "console.StartProcess C:\\fenix\\fxc.exe \"/j/juego.prg\" 4";
 const std::string WriteLog = "files.Write " + LogFile.toStdString();
 const std::string ReadLog = "files.Read " + LogFile.toStdString();
 

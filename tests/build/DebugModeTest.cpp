@@ -27,11 +27,11 @@ TEST_F(DebugModeItem, RestoresTheCheckMarkOnTheSecondClick) {
 
 TEST_F(DebugModeItem, ChangesNoCommandLine) {
     Build.mnuPrograma_Ejecutar_Click();
-    const auto before = Log.CallsOf({"console.CreateProcess", "programs.Start"});
+    const auto before = Log.CallsOf({"console.StartProcess", "programs.Start"});
     Click();
     Log.Clear();
     Build.mnuPrograma_Ejecutar_Click();
-    EXPECT_EQ(Log.CallsOf({"console.CreateProcess", "programs.Start"}), before);
+    EXPECT_EQ(Log.CallsOf({"console.StartProcess", "programs.Start"}), before);
 }
 
 } // namespace

@@ -31,13 +31,13 @@ const std::string Pump = "events.ProcessPendingEvents";
 TEST_F(RunningACommand, TakesItsStepsInOrderWithPumpsBetweenThem) {
     Run();
     EXPECT_THAT(Log.Calls(),
-                ElementsAre(Pump,                                                       //
-                            "console.CreatePipe 1048576", Pump,                         //
-                            Pump,                                                       //
-                            "console.CreateProcess \"C:\\f x\\fxc.exe\" a.prg 4", Pump, //
-                            Pump, "console.WaitForProcess 1", Pump,                     //
-                            "console.ReadFile 3 30720", Pump,                           //
-                            Pump,                                                       //
+                ElementsAre(Pump,                                                      //
+                            "console.CreatePipe 1048576", Pump,                        //
+                            Pump,                                                      //
+                            "console.StartProcess \"C:\\f x\\fxc.exe\" a.prg 4", Pump, //
+                            Pump, "console.WaitForProcess 1", Pump,                    //
+                            "console.ReadFile 3 30720", Pump,                          //
+                            Pump,                                                      //
                             "console.CloseHandle 1", "console.CloseHandle 2",
                             "console.CloseHandle 3", "console.CloseHandle 4", Pump));
 }
@@ -76,7 +76,7 @@ TEST_F(RunningACommand, TellsOnlyByItsTextThatTheProcessFailed) {
     Console.Error = 2;
     EXPECT_EQ(Run(), QString("Error: CreateProcess failed. 2"));
     EXPECT_EQ(Log.Calls().size(), 6U);
-    EXPECT_THAT(Log.Calls()[4], StartsWith("console.CreateProcess"));
+    EXPECT_THAT(Log.Calls()[4], StartsWith("console.StartProcess"));
     EXPECT_EQ(Log.Calls()[5], Pump);
 }
 

@@ -8,7 +8,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 const std::string SetBlitzPath =
-    "programs.SetEnvironmentVariable blitzpath C:\\Archivos de programa\\Blitz3D\\";
+    "programs.SetVariable blitzpath C:\\Archivos de programa\\Blitz3D\\";
 
 class RunningTheGame : public BuildProgram {
   protected:
@@ -23,7 +23,7 @@ TEST_F(RunningTheGame, SavesBeforeItSetsTheVariableAndCompilesThenStartsTheGame)
                 ElementsAre("editor.SaveFile /j/juego.prg", // the active document
                             "editor.SaveFile /j/juego.prg", // then all that have a name
                             SetBlitzPath,
-                            "console.CreateProcess C:\\fenix\\fxc.exe \"/j/juego.prg\" 4",
+                            "console.StartProcess C:\\fenix\\fxc.exe \"/j/juego.prg\" 4",
                             "main.SetLog Listo", "files.Write " + LogFile.toStdString(),
                             "files.Read " + LogFile.toStdString(),
                             "programs.Start C:\\fenix\\FXI.exe \"/j/juego.dcb\" 2"));

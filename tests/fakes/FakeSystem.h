@@ -153,9 +153,9 @@ class FakeConsole : public ConsoleProcess {
         Log_.Add("console.CreatePipe", static_cast<int>(size));
         return PipeFails ? std::nullopt : std::optional(PipeHandles{3, 4});
     }
-    std::optional<ProcessHandles> CreateProcess(const QString &commandLine,
-                                                SystemHandle standardOutput) override {
-        Log_.Add("console.CreateProcess", commandLine, static_cast<int>(standardOutput));
+    std::optional<ProcessHandles> StartProcess(const QString &commandLine,
+                                               SystemHandle standardOutput) override {
+        Log_.Add("console.StartProcess", commandLine, static_cast<int>(standardOutput));
         CommandLines.push_back(commandLine);
         return ProcessFails ? std::nullopt : std::optional(ProcessHandles{1, 2});
     }
@@ -194,8 +194,8 @@ class FakePrograms : public Programs {
         if (Missing)
             throw FileNotFound();
     }
-    void SetEnvironmentVariable(const QString &name, const QString &value) override {
-        Log_.Add("programs.SetEnvironmentVariable", name, value);
+    void SetVariable(const QString &name, const QString &value) override {
+        Log_.Add("programs.SetVariable", name, value);
     }
 
   private:
@@ -219,7 +219,7 @@ class FakeEventLoop : public EventLoop {
         Log_.Add("events.ProcessWindowEvents");
         WhilePumping();
     }
-    void Yield() override { WhileYielding(); }
+    void GiveWay() override { WhileYielding(); }
     bool IsCtrlDown() override { return CtrlDown; }
 
   private:

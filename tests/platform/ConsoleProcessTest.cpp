@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/SystemConsoleProcess.h"
 
-#include "platform/ProgramFolder.h"
 #include "platform/ProgramTest.h"
+
+#include <QCoreApplication>
 
 #include <fcntl.h>
 #include <signal.h>
@@ -16,7 +17,7 @@ class ConsoleProcessTest : public ProgramTest {
     /// What one read yields after the program has ended.
     std::string OutputOf(const QString &commandLine) {
         const PipeHandles pipe = *Console.CreatePipe(1 << 20);
-        const auto process = Console.CreateProcess(commandLine, pipe.WriteEnd);
+        const auto process = Console.StartProcess(commandLine, pipe.WriteEnd);
         std::string output = "not started";
         Console.CloseHandle(pipe.WriteEnd);
         if (process) {
@@ -59,7 +60,7 @@ TEST_F(ConsoleProcessTest, YieldsAtMostAsManyBytesAsAreAskedFor) {
 TEST_F(ConsoleProcessTest, KeepsTheRestForTheNextRead) {
     MakeScript("fxc", "printf 12345");
     const PipeHandles pipe = *Console.CreatePipe(1 << 20);
-    const ProcessHandles process = *Console.CreateProcess("./fxc", pipe.WriteEnd);
+    const ProcessHandles process = *Console.StartProcess("./fxc", pipe.WriteEnd);
     Console.WaitForProcess(process.Process);
     EXPECT_EQ(Console.ReadFile(pipe.ReadEnd, 3), "123");
     EXPECT_EQ(Console.ReadFile(pipe.ReadEnd, 30720), "45");
@@ -135,7 +136,7 @@ TEST_F(ConsoleProcessTest, FindsTheProgramWithOrWithoutExe) {
 
 TEST_F(ConsoleProcessTest, LooksBesideTheProgramThenInTheCurrentFolderThenOnTheSearchPath) {
     const QString name = QString("quillbox-prueba-%1").arg(::getpid());
-    const QString beside = ProgramFolder() + '/' + name;
+    const QString beside = QCoreApplication::applicationDirPath() + '/' + name;
     MakeScript("ruta/" + name, "echo ruta");
     SearchFirstIn("ruta");
     EXPECT_EQ(OutputOf(name), "ruta\n");
@@ -220,13 +221,13 @@ TEST_F(ConsoleProcessTest, RefusesHandlesThatAreClosed) {
     Console.CloseHandle(pipe.WriteEnd);
     EXPECT_FALSE(Console.ReadFile(pipe.ReadEnd, 10));
     EXPECT_EQ(Console.LastError(), EBADF);
-    EXPECT_FALSE(Console.CreateProcess("/bin/true", pipe.WriteEnd));
+    EXPECT_FALSE(Console.StartProcess("/bin/true", pipe.WriteEnd));
     EXPECT_EQ(Console.LastError(), EBADF);
 }
 
 TEST_F(ConsoleProcessTest, LeavesNoZombieWhenAProcessIsForgotten) {
     const PipeHandles pipe = *Console.CreatePipe(4096);
-    const ProcessHandles process = *Console.CreateProcess("/bin/true", pipe.WriteEnd);
+    const ProcessHandles process = *Console.StartProcess("/bin/true", pipe.WriteEnd);
     Console.CloseHandle(process.Thread);
     Console.CloseHandle(process.Process);
     EXPECT_TRUE(BecomesTrue([] { return HasNoChild(); }));

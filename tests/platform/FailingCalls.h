@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/linux/SystemCalls.h"
+#include "platform/linux/LinuxFileSystem.h"
 
 #include <cerrno>
 #include <string>

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/Paths.h"
 
-#include "platform/ProgramFolder.h"
 #include "platform/TestFiles.h"
 
-#include <QCoreApplication>
 
 namespace Quillbox {
 
@@ -26,10 +24,6 @@ class SystemPathTest : public FolderTest {
 TEST(Paths, SeparateNamesAsLinuxDoes) {
     EXPECT_EQ(PathSeparator, u'/');
     EXPECT_STREQ(LineEnd, "\n");
-}
-
-TEST(ProgramFolderTest, IsTheFolderOfTheExecutable) {
-    EXPECT_EQ(ProgramFolder(), QCoreApplication::applicationDirPath());
 }
 
 TEST_F(SystemPathTest, LeavesAnEmptyPathEmpty) { EXPECT_EQ(SystemPath(QString()), QString()); }

@@ -96,7 +96,7 @@ TEST_F(ProgramsTest, StartsAProgramForWindowsThroughWine) {
 
 TEST_F(ProgramsTest, SetsVariablesForLaterChildren) {
     MakeScript("visor", "printf %s \"$QUILLBOX_PRUEBA\" > nueva; mv nueva marca");
-    Programs.SetEnvironmentVariable("QUILLBOX_PRUEBA", "C:\\año; x");
+    Programs.SetVariable("QUILLBOX_PRUEBA", "C:\\año; x");
     EXPECT_EQ(qEnvironmentVariable("QUILLBOX_PRUEBA"), "C:\\año; x");
     EXPECT_EQ(ErrorOf("./visor"), 0);
     EXPECT_EQ(Mark(), "C:\\año; x");

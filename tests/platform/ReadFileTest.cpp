@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/SaveFile.h"
 #include "platform/TestFiles.h"
-#include "platform/linux/SystemCalls.h"
+#include "platform/linux/LinuxFileSystem.h"
 
 #include <cerrno>
 #include <vector>
@@ -26,7 +25,7 @@ ReadResult ReadAll(const QString &path, const SystemCalls &calls = {}) {
             result.PieceSizes.push_back(piece.size());
             result.AnnouncedSizes.push_back(fileSize);
         },
-        calls);
+        LinuxFileSystem(calls));
     return result;
 }
 

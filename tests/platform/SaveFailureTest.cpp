@@ -28,7 +28,8 @@ class SaveFailureTest : public FolderTest {
         for (int failAt = 0;; ++failAt) {
             prepare();
             FailingCalls failing(failAt, error);
-            const auto result = ReplaceFile(PathOf(name), ProducerOf(New), failing.Calls);
+            const auto result =
+                ReplaceContent(PathOf(name), ProducerOf(New), LinuxFileSystem(failing.Calls));
             SCOPED_TRACE(failing.Failed() + ", call " + std::to_string(failAt));
             check(result, failing.Failed());
             if (failing.Failed().empty())
@@ -114,9 +115,9 @@ TEST_F(SaveFailureTest, RestoresAFileWithHardLinks) {
         }
     };
     const auto failed = FailEachCall(EIO, "a.prg", prepare, check);
-    const std::set<std::string> expected = {"lstat",     "stat",  "access", "open",
-                                            "read",      "write", "fchmod", "fsync",
-                                            "ftruncate", "close", "unlink"};
+    const std::set<std::string> expected = {"lstat", "stat",      "access", "open",
+                                            "read",  "write",     "fstat",  "fchmod",
+                                            "fsync", "ftruncate", "close",  "unlink"};
     EXPECT_EQ(failed, expected);
 }
 
@@ -128,7 +129,8 @@ TEST_F(SaveFailureTest, KeepsTheCopyAndSaysWhereWhenRestoringFailsToo) {
         WriteTestFile(PathOf("a.prg"), Old);
         ASSERT_EQ(::link(PathOf("a.prg").toUtf8(), PathOf("b.prg").toUtf8()), 0);
         FailingCalls failing(failAt, EIO, Failing::FromThenOn);
-        const auto error = ReplaceFile(PathOf("a.prg"), ProducerOf(New), failing.Calls);
+        const auto error =
+            ReplaceContent(PathOf("a.prg"), ProducerOf(New), LinuxFileSystem(failing.Calls));
         SCOPED_TRACE(failing.Failed() + ", call " + std::to_string(failAt));
         if (!error)
             break;
@@ -151,7 +153,7 @@ TEST_F(SaveFailureTest, SaysThatTheDiskIsFull) {
         errno = ENOSPC;
         return -1;
     };
-    const auto error = ReplaceFile(PathOf("a.prg"), ProducerOf(New), calls);
+    const auto error = ReplaceContent(PathOf("a.prg"), ProducerOf(New), LinuxFileSystem(calls));
     ASSERT_TRUE(error);
     EXPECT_EQ(error->Code, ENOSPC);
     EXPECT_EQ(error->Text, "El disco está lleno.");
@@ -166,12 +168,12 @@ TEST_F(SaveFailureTest, TellsTheProducerThatWritingHasFailed) {
         return -1;
     };
     std::vector<bool> answers;
-    ReplaceFile(
+    ReplaceContent(
         PathOf("a.prg"),
         [&answers](const ByteSink &sink) {
             answers = {sink("uno"), sink("dos"), sink("")};
         },
-        calls);
+        LinuxFileSystem(calls));
     EXPECT_EQ(answers, std::vector<bool>(3, false));
 }
 
@@ -180,14 +182,14 @@ TEST_F(SaveFailureTest, GoesOnAfterShortWrites) {
     calls.Write = [](int descriptor, const void *bytes, std::size_t size) {
         return ::write(descriptor, bytes, std::min<std::size_t>(size, 7));
     };
-    EXPECT_FALSE(ReplaceFile(PathOf("a.prg"), ProducerOf(New), calls));
+    EXPECT_FALSE(ReplaceContent(PathOf("a.prg"), ProducerOf(New), LinuxFileSystem(calls)));
     EXPECT_EQ(Content(), New);
 }
 
 TEST_F(SaveFailureTest, TakesAWriteOfNothingForAFailure) {
     SystemCalls calls;
     calls.Write = [](int, const void *, std::size_t) { return ssize_t{0}; };
-    EXPECT_TRUE(ReplaceFile(PathOf("a.prg"), ProducerOf(New), calls));
+    EXPECT_TRUE(ReplaceContent(PathOf("a.prg"), ProducerOf(New), LinuxFileSystem(calls)));
     EXPECT_EQ(Entries(), QStringList());
 }
 
@@ -219,7 +221,7 @@ TEST_F(SaveFailureTest, SavesInAFolderThatCannotBeListed) {
         errno = EACCES;
         return (flags & O_DIRECTORY) != 0 ? -1 : ::open(name, flags, mode);
     };
-    EXPECT_FALSE(ReplaceFile(PathOf("a.prg"), ProducerOf(New), calls));
+    EXPECT_FALSE(ReplaceContent(PathOf("a.prg"), ProducerOf(New), LinuxFileSystem(calls)));
     EXPECT_EQ(Content(), New);
 }
 
@@ -239,7 +241,7 @@ TEST_F(SaveFailureTest, KeepsOwnerAndGroupOfTheOldFile) {
         owners.emplace_back(user, group);
         return 0;
     };
-    EXPECT_FALSE(ReplaceFile(PathOf("a.prg"), ProducerOf(New), calls));
+    EXPECT_FALSE(ReplaceContent(PathOf("a.prg"), ProducerOf(New), LinuxFileSystem(calls)));
     EXPECT_EQ(owners, (std::vector<std::pair<uid_t, gid_t>>{{1234, 5678}}));
     EXPECT_EQ(ModeOf(PathOf("a.prg")), 04755U);
 }
@@ -261,7 +263,7 @@ TEST_F(SaveFailureTest, KeepsTheGroupAloneWhenTheOwnerMayNotBeGivenAway) {
         errno = EPERM;
         return -1;
     };
-    EXPECT_FALSE(ReplaceFile(PathOf("a.prg"), ProducerOf(New), calls));
+    EXPECT_FALSE(ReplaceContent(PathOf("a.prg"), ProducerOf(New), LinuxFileSystem(calls)));
     const std::vector<std::pair<uid_t, gid_t>> expected = {{1234, 5678},
                                                            {static_cast<uid_t>(-1), 5678}};
     EXPECT_EQ(owners, expected);
@@ -292,7 +294,7 @@ TEST_F(SaveFailureTest, FlushesTheContentBeforeTheNameShowsItAndThenTheName) {
             steps += "remove copy";
             return ::unlink(name);
         };
-        EXPECT_FALSE(ReplaceFile(PathOf("a.prg"), ProducerOf(New), calls));
+        EXPECT_FALSE(ReplaceContent(PathOf("a.prg"), ProducerOf(New), LinuxFileSystem(calls)));
         const QStringList inPlace = {"flush file", "flush folder", "flush file", "remove copy"};
         const QStringList beside = {"flush file", "rename", "flush folder"};
         EXPECT_EQ(steps, linked ? inPlace : beside);
@@ -313,7 +315,7 @@ TEST_F(SaveFailureTest, WritesUnderANameThatNobodyElseCanRead) {
         EXPECT_EQ(Entries().size(), 2);
         return ::write(descriptor, bytes, size);
     };
-    EXPECT_FALSE(ReplaceFile(PathOf("a.prg"), ProducerOf(New), calls));
+    EXPECT_FALSE(ReplaceContent(PathOf("a.prg"), ProducerOf(New), LinuxFileSystem(calls)));
 }
 
 } // namespace Quillbox

@@ -12,7 +12,7 @@ namespace {
 class SaveFileTest : public FolderTest {
   protected:
     static std::optional<FileError> Save(const QString &path, const QByteArray &content) {
-        return ReplaceFile(path, ProducerOf(content));
+        return ReplaceContent(path, ProducerOf(content));
     }
 
     static void ExpectRefused(const QString &path, int code, const QString &text) {
@@ -32,7 +32,7 @@ TEST_F(SaveFileTest, CreatesANewFile) {
 }
 
 TEST_F(SaveFileTest, CreatesAnEmptyFileWhenNothingIsProduced) {
-    EXPECT_FALSE(ReplaceFile(PathOf("a.prg"), [](const ByteSink &) {}));
+    EXPECT_FALSE(ReplaceContent(PathOf("a.prg"), [](const ByteSink &) {}));
     EXPECT_EQ(ReadTestFile(PathOf("a.prg")), QByteArray());
 }
 
@@ -186,10 +186,10 @@ TEST_F(SaveFileTest, LeavesTheOldFileWhenProducingIsInterrupted) {
         sink("nuevo");
         throw std::bad_alloc();
     };
-    EXPECT_THROW(ReplaceFile(PathOf("a.prg"), interrupted), std::bad_alloc);
+    EXPECT_THROW(ReplaceContent(PathOf("a.prg"), interrupted), std::bad_alloc);
     EXPECT_EQ(ReadTestFile(PathOf("a.prg")), "viejo");
     ASSERT_EQ(::link(PathOf("a.prg").toUtf8(), PathOf("b.prg").toUtf8()), 0);
-    EXPECT_THROW(ReplaceFile(PathOf("a.prg"), interrupted), std::bad_alloc);
+    EXPECT_THROW(ReplaceContent(PathOf("a.prg"), interrupted), std::bad_alloc);
     EXPECT_EQ(ReadTestFile(PathOf("a.prg")), "viejo");
     EXPECT_EQ(Entries(), QStringList({"a.prg", "b.prg"}));
 }

@@ -158,7 +158,7 @@ std::optional<FileError> LoadAnsiFile(const ScintillaText &text, const QString &
 }
 
 std::optional<FileError> SaveAnsiFile(const ScintillaText &text, const QString &path) {
-    return ReplaceFile(SystemPath(path), [&](const ByteSink &sink) { ProduceAnsi(text, sink); });
+    return ReplaceContent(SystemPath(path), [&](const ByteSink &sink) { ProduceAnsi(text, sink); });
 }
 
 std::optional<QString> SaveRescueCopy(const ScintillaText &text, const QString &path) {
@@ -169,7 +169,7 @@ std::optional<QString> SaveRescueCopy(const ScintillaText &text, const QString &
     const QString stamp = QDateTime::currentDateTime().toString(u"yyyyMMdd-HHmmss-zzz");
     const QString name = stamp + u' ' + QFileInfo(SystemPath(path)).fileName();
     const QString copy = QDir::toNativeSeparators(folder.filePath(name));
-    if (ReplaceFile(copy, [&](const ByteSink &sink) { ProduceAnsi(text, sink); }))
+    if (ReplaceContent(copy, [&](const ByteSink &sink) { ProduceAnsi(text, sink); }))
         return std::nullopt;
     return copy;
 }

@@ -3,9 +3,9 @@
 
 #include "base/CommandLine.h"
 #include "base/Paths.h"
-#include "platform/ProgramFolder.h"
 #include "platform/linux/DesktopPrograms.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -47,7 +47,8 @@ QStringList PlacesOf(const QString &program) {
     if (NamesFolder(program))
         return {program};
     QStringList places;
-    for (const QString &folder : QStringList{ProgramFolder(), QDir::currentPath()} + SearchPath())
+    for (const QString &folder :
+         QStringList{QCoreApplication::applicationDirPath(), QDir::currentPath()} + SearchPath())
         places += folder + u'/' + program;
     return places;
 }

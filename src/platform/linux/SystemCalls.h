@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/SaveFile.h"
-
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -32,10 +30,5 @@ struct SystemCalls {
     std::function<int(const char *, const char *)> Rename = ::rename;
     std::function<int(const char *)> Unlink = ::unlink;
 };
-
-std::optional<FileError> ReplaceFile(const QString &path, const ByteProducer &produce,
-                                     const SystemCalls &calls);
-std::optional<FileError> ReadFileBytes(const QString &path, const PieceConsumer &consume,
-                                       const SystemCalls &calls);
 
 } // namespace Quillbox

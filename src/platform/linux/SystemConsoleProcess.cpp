@@ -34,8 +34,8 @@ std::optional<PipeHandles> SystemConsoleProcess::CreatePipe(std::size_t size) {
     return PipeHandles{ends[0], ends[1]};
 }
 
-std::optional<ProcessHandles> SystemConsoleProcess::CreateProcess(const QString &commandLine,
-                                                                  SystemHandle standardOutput) {
+std::optional<ProcessHandles> SystemConsoleProcess::StartProcess(const QString &commandLine,
+                                                                 SystemHandle standardOutput) {
     SpawnResult spawned{EBADF, 0};
     if (standardOutput >= 0 && Open_.contains(standardOutput))
         spawned = Spawn(commandLine, static_cast<int>(standardOutput), ChildSession::Ours);

@@ -45,7 +45,7 @@ void SystemPrograms::OpenAddress(const QString &address) {
     Start(QStringLiteral("explorer.exe ") + address, WindowStyle::Normal);
 }
 
-void SystemPrograms::SetEnvironmentVariable(const QString &name, const QString &value) {
+void SystemPrograms::SetVariable(const QString &name, const QString &value) {
     qputenv(name.toUtf8().constData(), QFile::encodeName(value));
 }
 

@@ -35,8 +35,8 @@ std::optional<PipeHandles> SystemConsoleProcess::CreatePipe(std::size_t size) {
     return PipeHandles{ToSystemHandle(readEnd), ToSystemHandle(writeEnd)};
 }
 
-std::optional<ProcessHandles> SystemConsoleProcess::CreateProcess(const QString &commandLine,
-                                                                  SystemHandle standardOutput) {
+std::optional<ProcessHandles> SystemConsoleProcess::StartProcess(const QString &commandLine,
+                                                                 SystemHandle standardOutput) {
     // The system writes into the command line while it looks for the program.
     std::wstring text = commandLine.toStdWString();
     STARTUPINFOW startup = HiddenWithOutput(standardOutput);

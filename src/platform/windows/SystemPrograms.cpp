@@ -47,7 +47,7 @@ void SystemPrograms::OpenAddress(const QString &address) {
         throw ErrorOfStart(static_cast<DWORD>(answer));
 }
 
-void SystemPrograms::SetEnvironmentVariable(const QString &name, const QString &value) {
+void SystemPrograms::SetVariable(const QString &name, const QString &value) {
     ::SetEnvironmentVariableW(name.toStdWString().c_str(), value.toStdWString().c_str());
 }
 

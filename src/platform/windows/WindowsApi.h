@@ -9,12 +9,6 @@
 #endif
 #include <windows.h>
 
-// These macros would rename functions of this program that carry the same names.
-#undef CreateProcess
-#undef ReplaceFile
-#undef SetEnvironmentVariable
-#undef Yield
-
 #include <QDir>
 #include <QString>
 

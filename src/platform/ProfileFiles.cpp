@@ -7,7 +7,6 @@
 #include "platform/SaveFile.h"
 
 #include <algorithm>
-#include <cerrno>
 
 namespace Quillbox {
 
@@ -43,12 +42,11 @@ bool ProfileFiles::WriteStrings(const QString &section, const std::vector<KeyVal
     const QString path = SystemPath(file);
     QByteArray content;
     const auto error = ReadWholeFile(path, content);
-    if (error && error->Code != ENOENT)
+    if (error && error->Problem != FileProblem::Missing)
         return false;
     for (const auto &[key, value] : values)
         content = WithProfileValue(content, ToAnsi(section), ToAnsi(key), ToAnsi(value));
-    const std::string_view bytes(content.constData(), static_cast<std::size_t>(content.size()));
-    return !ReplaceFile(path, [bytes](const ByteSink &sink) { sink(bytes); });
+    return !ReplaceContent(path, content);
 }
 
 } // namespace Quillbox
