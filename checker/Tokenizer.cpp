@@ -1,26 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "checker/Tokenizer.h"
 
+#include "base/Characters.h"
+
 #include <string>
 
 namespace Quillbox {
 
 namespace {
 
-bool IsDigit(char byte) { return byte >= '0' && byte <= '9'; }
-
-bool IsBinaryDigit(char byte) { return byte == '0' || byte == '1'; }
-
-bool IsHexDigit(char byte) {
-    return IsDigit(byte) || (byte >= 'a' && byte <= 'f') || (byte >= 'A' && byte <= 'F');
-}
-
 bool IsLetter(char byte) {
     return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z') || byte == '_' ||
            static_cast<unsigned char>(byte) >= 128;
 }
-
-bool IsLineEnd(char byte) { return byte == '\n' || byte == '\r'; }
 
 bool IsBlank(char byte) { return static_cast<unsigned char>(byte) <= ' ' && !IsLineEnd(byte); }
 
@@ -133,13 +125,13 @@ std::size_t Tokenizer::EndOfNumber() const {
     const char first = Source_[Position_];
     const char second = ByteAt(Position_ + 1);
     std::size_t end = Position_;
-    const auto skip = [&](bool (*accepts)(char)) {
+    const auto skip = [&](auto accepts) {
         while (accepts(ByteAt(end)))
             ++end;
     };
     if ((first == '$' && IsHexDigit(second)) || (first == '%' && IsBinaryDigit(second))) {
         ++end;
-        skip(first == '$' ? IsHexDigit : IsBinaryDigit);
+        first == '$' ? skip(IsHexDigit) : skip(IsBinaryDigit);
     } else if (IsDigit(first) || (first == '.' && IsDigit(second))) {
         skip(IsDigit);
         if (ByteAt(end) == '.')

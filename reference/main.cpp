@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Writes the reference of the language into the help of the program folder. Nothing is written, and
 // the exit code is 1, when the word files, the themes and the examples do not belong together.
-#include "base/Windows1252.h"
+#include "base/Windows1252Text.h"
 #include "reference/Pages.h"
 #include "reference/Sources.h"
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/AnsiText.h"
 
-#include <bit>
+#include "base/Utf8.h"
+
 #include <cstdint>
 #include <cstring>
 
@@ -9,28 +10,11 @@ namespace Quillbox {
 
 namespace {
 
-/// The UTF-8 form of one byte.
-struct Utf8Character {
-    char Units[3];
-    std::uint8_t Size;
-};
-
 /// Everything that the conversions look up, made once from the code page.
 struct ConversionTables {
-    std::array<Utf8Character, 256> Utf8;
+    std::array<EncodedCharacter, 256> Utf8;
     std::array<char, 0x10000> Bytes; ///< by character; 0 where the code page has no byte
 };
-
-Utf8Character EncodeUtf8(char16_t character) {
-    const auto unit = [](int value) { return static_cast<char>(value); };
-    if (character < 0x80)
-        return {{unit(character)}, 1};
-    if (character < 0x800)
-        return {{unit(0xC0 | (character >> 6)), unit(0x80 | (character & 0x3F))}, 2};
-    return {{unit(0xE0 | (character >> 12)), unit(0x80 | ((character >> 6) & 0x3F)),
-             unit(0x80 | (character & 0x3F))},
-            3};
-}
 
 ConversionTables MakeTables() {
     ConversionTables tables{};
@@ -60,31 +44,6 @@ std::size_t AsciiRunLength(std::string_view text) {
     while (length < text.size() && (text[length] & 0x80) == 0)
         ++length;
     return length;
-}
-
-struct DecodedCharacter {
-    char32_t Value;
-    std::size_t Size; ///< 0 when the bytes are no UTF-8
-};
-
-/// The character that `text` begins with; `text` is not empty.
-DecodedCharacter DecodeUtf8(std::string_view text) {
-    constexpr char32_t smallest[] = {0, 0, 0x80, 0x800, 0x10000};
-    const auto lead = static_cast<unsigned char>(text[0]);
-    const auto size = static_cast<std::size_t>(std::countl_one(lead));
-    if (size < 2 || size > 4 || size > text.size())
-        return {0, 0};
-    char32_t value = lead & (0x7FU >> size);
-    for (std::size_t i = 1; i < size; ++i) {
-        const auto unit = static_cast<unsigned char>(text[i]);
-        if ((unit & 0xC0) != 0x80)
-            return {0, 0};
-        value = (value << 6) | (unit & 0x3F);
-    }
-    const bool surrogate = value >= 0xD800 && value <= 0xDFFF;
-    if (value < smallest[size] || value > 0x10FFFF || surrogate)
-        return {0, 0};
-    return {value, size};
 }
 
 char AnsiByteOr(char32_t character, char replacement) {
@@ -145,8 +104,8 @@ void AppendAnsiAsUtf8(std::string_view bytes, std::string &utf8) {
         utf8.append(bytes.substr(0, run));
         bytes.remove_prefix(run);
         for (; !bytes.empty() && (bytes[0] & 0x80) != 0; bytes.remove_prefix(1)) {
-            const Utf8Character &character = characters[static_cast<unsigned char>(bytes[0])];
-            utf8.append(character.Units, character.Size);
+            const EncodedCharacter &character = characters[static_cast<unsigned char>(bytes[0])];
+            utf8.append(character.Bytes.data(), character.Size);
         }
     }
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/Numbers.h"
 
+#include "base/Characters.h"
 #include "base/RuntimeError.h"
 
 #include <cmath>
@@ -14,7 +15,7 @@ bool IsBlank(QChar character) { return character == u' ' || character == u'\t'; 
 /// -1 for a character that is no digit of any base.
 int DigitValue(QChar character) {
     const char16_t code = character.unicode();
-    if (code >= u'0' && code <= u'9')
+    if (IsDigit(code))
         return code - u'0';
     if (code >= u'A' && code <= u'F')
         return code - u'A' + 10;

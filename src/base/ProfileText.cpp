@@ -2,6 +2,7 @@
 #include "base/ProfileText.h"
 
 #include "base/AnsiText.h"
+#include "base/Characters.h"
 
 #include <QByteArrayView>
 
@@ -35,8 +36,7 @@ struct KeyAndValue {
 std::vector<Line> SplitLines(QByteArrayView content) {
     std::vector<Line> lines;
     for (qsizetype start = 0; start < content.size(); start = lines.back().End) {
-        const auto isLineEnd = [](char byte) { return byte == '\r' || byte == '\n'; };
-        const auto found = std::find_if(content.begin() + start, content.end(), isLineEnd);
+        const auto found = std::find_if(content.begin() + start, content.end(), IsLineEnd);
         const qsizetype textEnd = found - content.begin();
         qsizetype end = std::min(textEnd + 1, content.size());
         if (end < content.size() && content[textEnd] == '\r' && content[end] == '\n')
@@ -144,7 +144,7 @@ QByteArray LineEndOf(const QByteArray &content) {
 /// Inserts whole lines, after a line end where the text before has none.
 QByteArray WithLinesAt(QByteArray content, qsizetype place, QByteArray lines,
                        const QByteArray &lineEnd) {
-    const bool needsLineEnd = place > 0 && content[place - 1] != '\n' && content[place - 1] != '\r';
+    const bool needsLineEnd = place > 0 && !IsLineEnd(content[place - 1]);
     return content.insert(place, needsLineEnd ? lineEnd + lines : lines);
 }
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/TextItems.h"
 
+#include "base/Characters.h"
+
 namespace Quillbox {
 namespace {
-
-bool IsLineEnd(QChar character) { return character == u'\n' || character == u'\r'; }
 
 /// Moves `position` behind the line end that starts there; CR LF is one line end.
 void SkipLineEnd(const QString &text, qsizetype &position) {

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QByteArray>
-#include <QString>
-
 #include <array>
 #include <cstddef>
 
@@ -27,15 +24,6 @@ constexpr std::array<char16_t, 256> MakeWindows1252() {
     for (std::size_t i = 0; i < Windows1252From80To9F.size(); ++i)
         codePage[0x80 + i] = Windows1252From80To9F[i];
     return codePage;
-}
-
-/// Windows-1252 on every system, whatever its own code page is.
-inline QString FromWindows1252(const QByteArray &bytes) {
-    static constexpr auto CodePage = MakeWindows1252();
-    QString text(bytes.size(), Qt::Uninitialized);
-    for (qsizetype i = 0; i < bytes.size(); ++i)
-        text[i] = QChar(CodePage[static_cast<unsigned char>(bytes[i])]);
-    return text;
 }
 
 } // namespace Quillbox

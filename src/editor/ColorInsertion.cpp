@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/ColorInsertion.h"
 
+#include "base/Characters.h"
 #include "surfaces/Dialogs.h"
 #include "surfaces/EditorControl.h"
 
@@ -15,7 +16,7 @@ namespace {
 constexpr int ColorDigits = 6;
 
 int ValueOfDigit(QChar digit) {
-    if (digit >= u'0' && digit <= u'9')
+    if (IsDigit(digit))
         return digit.unicode() - u'0';
     return digit >= u'A' && digit <= u'F' ? digit.unicode() - u'A' + 10 : 0;
 }

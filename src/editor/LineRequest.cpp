@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/LineRequest.h"
 
+#include "base/Characters.h"
+
 #include <QString>
 
 #include <algorithm>
@@ -17,8 +19,7 @@ std::optional<int> ReadNumber(QStringView text) {
     const bool negative = digits.startsWith(u'-');
     if (negative)
         digits = digits.sliced(1);
-    const auto isDigit = [](QChar character) { return character >= u'0' && character <= u'9'; };
-    if (digits.isEmpty() || !std::ranges::all_of(digits, isDigit))
+    if (digits.isEmpty() || !std::ranges::all_of(digits, IsDigit))
         return std::nullopt;
     if (negative)
         return 0;

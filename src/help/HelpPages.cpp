@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "help/HelpPages.h"
 
-#include "base/Windows1252.h"
+#include "base/Windows1252Text.h"
 
 #include <QRegularExpression>
 #include <QStringDecoder>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/ColouringRules.h"
 
+#include "base/Characters.h"
 #include "language/ColouringScanner.h"
 
 #include <QStringList>
@@ -14,8 +15,6 @@ namespace {
 bool HasLineEnd(std::string_view text) {
     return text.find_first_of("\r\n") != std::string_view::npos;
 }
-
-bool IsAsciiDigit(char byte) { return byte >= '0' && byte <= '9'; }
 
 void AddWords(WordSet &words, const QString &list, TextStyle style) {
     const QStringList items = list.split(u'\n', Qt::SkipEmptyParts);
@@ -47,7 +46,7 @@ void ColouringRules::ClassifyBytes() {
     for (std::size_t code = 0; code < Classes_.size(); ++code) {
         const char byte = static_cast<char>(code);
         if (IsWordByte(byte))
-            Classes_[code] = IsAsciiDigit(byte) ? ByteClass::Digit : ByteClass::Word;
+            Classes_[code] = IsDigit(byte) ? ByteClass::Digit : ByteClass::Word;
         else if (byte == '.' || byte == '$' || byte == '%')
             Classes_[code] = ByteClass::NumberPrefix;
     }

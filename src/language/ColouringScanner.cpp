@@ -1,20 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/ColouringScanner.h"
 
+#include "base/Characters.h"
+
 #include <cstring>
 
 namespace Quillbox {
-
-namespace {
-
-bool IsDigit(char byte) { return static_cast<unsigned char>(byte - '0') < 10; }
-bool IsBinaryDigit(char byte) { return byte == '0' || byte == '1'; }
-bool IsHexDigit(char byte) {
-    return IsDigit(byte) || (byte >= 'a' && byte <= 'f') || (byte >= 'A' && byte <= 'F');
-}
-bool IsLineEnd(char byte) { return byte == '\r' || byte == '\n'; }
-
-} // namespace
 
 ColouringScanner::ColouringScanner(const ColouringRules &rules, std::string_view text,
                                    TextStyle *styles)
@@ -161,7 +152,9 @@ std::size_t ColouringScanner::PrefixedNumberEnd() const {
     const char prefix = Text_[Position_];
     if (prefix == '.')
         return FractionEnd(Position_);
-    const auto isDigit = prefix == '$' ? IsHexDigit : IsBinaryDigit;
+    const auto isDigit = [prefix](char byte) {
+        return prefix == '$' ? IsHexDigit(byte) : IsBinaryDigit(byte);
+    };
     std::size_t end = Position_ + 1;
     while (isDigit(ByteAt(end)))
         ++end;

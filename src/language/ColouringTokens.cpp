@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/ColouringTokens.h"
 
+#include "base/Characters.h"
+
 namespace Quillbox {
 
 namespace {
@@ -24,8 +26,6 @@ TokenClass ClassOf(TextStyle style) {
     }
     return TokenClass::Text;
 }
-
-bool IsDigit(char byte) { return byte >= '0' && byte <= '9'; }
 
 } // namespace
 

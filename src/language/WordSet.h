@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "base/Characters.h"
 #include "state/LanguageDefinition.h"
 
 #include <cstdint>
@@ -13,8 +14,8 @@ namespace Quillbox {
 /// Bytes of UTF-8 that words are made of: ASCII letters and digits, "_" and bytes from 0x80 up.
 constexpr bool IsWordByte(char byte) {
     const auto code = static_cast<unsigned char>(byte);
-    return (code >= 'a' && code <= 'z') || (code >= 'A' && code <= 'Z') ||
-           (code >= '0' && code <= '9') || code == '_' || code >= 0x80;
+    return (code >= 'a' && code <= 'z') || (code >= 'A' && code <= 'Z') || IsDigit(code) ||
+           code == '_' || code >= 0x80;
 }
 
 /// The form in which words are compared: upper case unless the language tells cases apart.

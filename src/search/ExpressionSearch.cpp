@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "search/ExpressionSearch.h"
 
+#include "base/Characters.h"
+#include "base/Utf8.h"
 #include "search/ExpressionProblem.h"
 
 #include <QCoreApplication>
@@ -9,8 +11,6 @@
 
 namespace Quillbox {
 namespace {
-
-bool IsLineEnd(char byte) { return byte == '\n' || byte == '\r'; }
 
 bool IsBetweenReturnAndFeed(std::string_view lines, std::size_t place) {
     return place > 0 && place < lines.size() && lines[place - 1] == '\r' && lines[place] == '\n';
@@ -68,19 +68,10 @@ std::size_t ExpressionSearch::ReadLine(std::string_view lines, std::size_t start
 void ExpressionSearch::ReadBeyondAscii(std::string_view line) {
     Units_.clear();
     for (std::size_t place = 0; place < line.size();) {
-        const auto byte = [&](std::size_t offset) -> unsigned {
-            return place + offset < line.size() ? static_cast<unsigned char>(line[place + offset])
-                                                : 0U;
-        };
-        const bool isTwo = byte(0) >= 0xC0 && byte(0) < 0xE0;
-        const bool isThree = byte(0) >= 0xE0;
-        const unsigned code =
-            isThree ? (byte(0) & 0x0F) << 12 | (byte(1) & 0x3F) << 6 | (byte(2) & 0x3F)
-            : isTwo ? (byte(0) & 0x1F) << 6 | (byte(1) & 0x3F)
-                    : byte(0);
-        Units_ += static_cast<char16_t>(code);
+        const DecodedCharacter character = DecodeUtf8(line.substr(place));
+        Units_ += static_cast<char16_t>(character.Value);
         Places_.push_back(place);
-        place += isThree ? 3 : isTwo ? 2 : 1;
+        place += std::max<std::size_t>(character.Size, 1);
     }
     Places_.push_back(line.size());
 }

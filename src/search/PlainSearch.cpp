@@ -2,6 +2,7 @@
 #include "search/PlainSearch.h"
 
 #include "base/AnsiText.h"
+#include "base/Utf8.h"
 #include "language/WordSet.h"
 
 #include <QList>
@@ -18,17 +19,6 @@ struct PackedBytes {
     std::uint32_t Length;
 };
 
-PackedBytes Utf8Of(char32_t character) {
-    const auto tail = [character](int shift) { return 0x80U | ((character >> shift) & 0x3FU); };
-    if (character < 0x80)
-        return {static_cast<std::uint32_t>(character), 1};
-    if (character < 0x800)
-        return {(0xC0U | (character >> 6)) | tail(0) << 8, 2};
-    if (character < 0x10000)
-        return {(0xE0U | (character >> 12)) | tail(6) << 8 | tail(0) << 16, 3};
-    return {(0xF0U | (character >> 18)) | tail(12) << 8 | tail(6) << 16 | tail(0) << 24, 4};
-}
-
 std::size_t ByteAt(std::uint32_t packed, std::size_t index) {
     return (packed >> (8 * index)) & 0xFFU;
 }
@@ -38,6 +28,11 @@ std::uint32_t Pack(const char *bytes, std::size_t length) {
     for (std::size_t index = 0; index < length; ++index)
         packed |= std::uint32_t{static_cast<unsigned char>(bytes[index])} << (8 * index);
     return packed;
+}
+
+PackedBytes Utf8Of(char32_t character) {
+    const EncodedCharacter encoded = EncodeUtf8(character);
+    return {Pack(encoded.Bytes.data(), encoded.Size), static_cast<std::uint32_t>(encoded.Size)};
 }
 
 bool StaysInAWord(std::string_view text, std::size_t place) {

@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "search/ReplacementText.h"
 
+#include "base/Characters.h"
+
 namespace Quillbox {
-namespace {
-
-bool IsDigit(char byte) { return byte >= '0' && byte <= '9'; }
-
-} // namespace
 
 ReplacementText ReplacementText::AsItStands(std::string_view utf8) {
     ReplacementText text;

@@ -3,6 +3,7 @@
 
 #include "base/AnsiText.h"
 #include "base/Paths.h"
+#include "base/Utf8.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -124,7 +125,7 @@ class Loading {
 /// The first place from `position` on where a character starts or the text ends.
 BytePosition CharacterStart(const ScintillaText &text, BytePosition position) {
     const auto isInside = [&text](BytePosition place) {
-        return (text.Send(Sci::SCI_GETCHARAT, place) & 0xC0) == 0x80;
+        return !StartsCharacter(static_cast<char>(text.Send(Sci::SCI_GETCHARAT, place)));
     };
     while (position < text.Length() && isInside(position))
         ++position;

@@ -2,6 +2,7 @@
 #include "editor/ui/ScintillaText.h"
 
 #include "base/AnsiText.h"
+#include "base/Utf8.h"
 
 #include <algorithm>
 
@@ -10,8 +11,6 @@ namespace Quillbox {
 namespace {
 
 using Sci = QsciScintillaBase;
-
-bool StartsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) != 0x80; }
 
 int CharacterCount(std::string_view utf8) {
     return static_cast<int>(std::count_if(utf8.begin(), utf8.end(), StartsCharacter));
