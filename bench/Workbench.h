@@ -6,6 +6,7 @@
 #include "editor/ui/LanguageCatalogue.h"
 #include "editor/ui/ScintillaEditor.h"
 #include "search/ui/FindDialog.h"
+#include "state/Language.h"
 #include "surfaces/Dialogs.h"
 
 #include <QCoreApplication>
@@ -31,11 +32,11 @@ class NoDialogs final : public Dialogs {
 
 /// What an editor needs around it.
 struct Workbench {
-    Workbench() { Languages.RegisterLanguage(LanguageName, SourceLanguage()); }
+    Workbench() { Languages.RegisterLanguage(Quillbox::SourceLanguage.Name, SourceLanguage()); }
 
     std::unique_ptr<ScintillaEditor> NewEditor() {
         auto editor = std::make_unique<ScintillaEditor>(Languages, Messages);
-        editor->SetLanguage(LanguageName);
+        editor->SetLanguage(Quillbox::SourceLanguage.Name);
         editor->SetLineNumbers(true);
         editor->resize(1000, 700);
         editor->show();

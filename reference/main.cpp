@@ -4,6 +4,7 @@
 #include "base/Windows1252Text.h"
 #include "reference/Pages.h"
 #include "reference/Sources.h"
+#include "state/Language.h"
 
 #include <QDir>
 #include <QFile>
@@ -28,13 +29,13 @@ Reference ReadReference(const QDir &data, QStringList &problems) {
         return ReadBytes(data.filePath(name), problems);
     };
     Reference reference;
-    reference.Words = PairWords(FromWindows1252(bytes(QStringLiteral("Keywords.txt"))),
-                                FromWindows1252(bytes(QStringLiteral("QuickHelp.txt"))), problems);
+    reference.Words = PairWords(FromWindows1252(bytes(SourceLanguage.KeywordFile)),
+                                FromWindows1252(bytes(SourceLanguage.QuickHelpFile)), problems);
     reference.Themes =
         ReadThemes(QString::fromUtf8(bytes(QStringLiteral("Reference/Themes.txt"))), problems);
     const QDir examples(data.filePath(QStringLiteral("Ayuda/Ejemplos")));
     for (const QString &file :
-         examples.entryList({QStringLiteral("*.bb")}, QDir::Files, QDir::Name))
+         examples.entryList({QChar(u'*') + SourceLanguage.ExampleSuffix}, QDir::Files, QDir::Name))
         if (auto example = ReadExample(
                 file, FromWindows1252(ReadBytes(examples.filePath(file), problems)), problems))
             reference.Examples.push_back(*example);

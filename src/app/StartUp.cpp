@@ -3,6 +3,7 @@
 
 #include "base/AppDir.h"
 #include "documents/CommandState.h"
+#include "state/Language.h"
 #include "state/Project.h"
 #include "state/WordFiles.h"
 #include "state/settings.h"
@@ -20,7 +21,7 @@ void StartUp::Run() {
     Words.LoadKeywords();
     Words.LoadQuickHelp();
     Store.LoadSettings();
-    Language.Registration.RegisterLanguage(LanguageName, Language.Definition);
+    Language.Registration.RegisterLanguage(SourceLanguage.Name, Language.Definition);
     Help.Show();
     Help.Navigate(HelpPagePath(AppDir, QStringLiteral("index.htm")));
 }

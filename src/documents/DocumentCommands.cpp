@@ -7,6 +7,7 @@
 #include "documents/FileNames.h"
 #include "documents/SyncTabs.h"
 #include "state/DocumentRegistry.h"
+#include "state/Language.h"
 #include "surfaces/Dialogs.h"
 #include "surfaces/DocumentWindow.h"
 #include "surfaces/EditorControl.h"
@@ -42,7 +43,8 @@ void DocumentCommands::OpenDocument(const QString &path) {
             LoadDocument(path);
         return;
     }
-    const auto chosen = Dialogs_.ShowOpen({FileChooserFlags::FileMustExist, SourceFilter});
+    const auto chosen =
+        Dialogs_.ShowOpen({FileChooserFlags::FileMustExist, SourceLanguage.SourceFilter});
     if (chosen && !ActivateOpenDocument(*chosen))
         LoadDocument(*chosen);
 }
@@ -58,7 +60,8 @@ void DocumentCommands::SaveDocument() {
 }
 
 void DocumentCommands::SaveDocumentAs() {
-    const auto chosen = Dialogs_.ShowSave({FileChooserFlags::OverwritePrompt, SourceFilter});
+    const auto chosen =
+        Dialogs_.ShowSave({FileChooserFlags::OverwritePrompt, SourceLanguage.SourceFilter});
     if (!chosen)
         return;
     Document &document = Registry_.Current();

@@ -5,9 +5,6 @@
 
 namespace Quillbox {
 
-/// What the file choosers for sources offer.
-inline const QString SourceFilter = QStringLiteral("Programas de Fenix (*.prg)|*.prg");
-
 struct FileNameParts {
     QString Directory; ///< with its separator at the end, empty without a folder
     QString FileName;

@@ -5,6 +5,7 @@
 #include "language/QuickHelp.h"
 #include "language/SymbolScanner.h"
 #include "state/DocumentRegistry.h"
+#include "state/Language.h"
 #include "state/LanguageDefinition.h"
 #include "surfaces/DocumentWindow.h"
 #include "surfaces/EditorControl.h"
@@ -34,7 +35,7 @@ EditorView::EditorView(DocumentWindow &window, const EditorViewParts &parts)
 
 void EditorView::Form_Load() {
     EditorControl &editor = Window_.Editor();
-    editor.SetLanguage(LanguageName);
+    editor.SetLanguage(SourceLanguage.Name);
     editor.SetColor(ColorSlot::MarginDivider, MarginDividerColor);
     editor.SetColor(ColorSlot::Margin, MarginColor);
     ApplyEditorSettings(Window_, Parts_.Options);

@@ -5,6 +5,7 @@
 #include "documents/DocumentCommands.h"
 #include "language/SymbolScanner.h"
 #include "state/DocumentRegistry.h"
+#include "state/Language.h"
 #include "surfaces/DocumentWindow.h"
 #include "surfaces/EditorControl.h"
 #include "surfaces/HelpViewer.h"
@@ -17,8 +18,6 @@
 
 namespace Quillbox {
 namespace {
-
-const QString SourceEnding = QStringLiteral(".bb");
 
 const QString OutsideSchemes[] = {QStringLiteral("http"), QStringLiteral("https"),
                                   QStringLiteral("mailto"), QStringLiteral("ftp")};
@@ -46,7 +45,7 @@ HelpLinks::HelpLinks(DocumentRegistry &registry, DocumentCommands &documents,
     , Launcher_(launcher) {}
 
 NavigationAnswer HelpLinks::htmlAyuda_BeforeNavigate(const QString &url) {
-    if (url.right(SourceEnding.size()) == SourceEnding) {
+    if (url.endsWith(SourceLanguage.ExampleSuffix)) {
         OpenSource(LocalPathOf(url));
         return NavigationAnswer::Cancel;
     }

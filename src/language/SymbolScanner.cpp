@@ -4,6 +4,7 @@
 #include "base/Numbers.h"
 #include "language/SymbolLists.h"
 #include "state/DocumentRegistry.h"
+#include "state/Language.h"
 #include "state/LanguageDefinition.h"
 #include "state/settings.h"
 #include "surfaces/DocumentWindow.h"
@@ -16,9 +17,6 @@
 
 namespace Quillbox {
 namespace {
-
-constexpr std::string_view FunctionPrefix = "process";
-constexpr std::string_view TypePrefix = "type";
 
 /// Most lines differ at their first letter. `prefix` is in lower case.
 bool BeginsWith(std::string_view line, std::string_view prefix) {
@@ -67,7 +65,7 @@ void SymbolScanner::ScanSymbols() {
     Language_.Definition.UserWords.clear();
     if (!ScanLines())
         return;
-    Language_.Registration.RegisterLanguage(LanguageName, Language_.Definition);
+    Language_.Registration.RegisterLanguage(SourceLanguage.Name, Language_.Definition);
     if (Registry_.CurrentIndex > 0)
         Registry_.Current().Scanning = false;
 }
@@ -102,9 +100,9 @@ bool SymbolScanner::ScanLines() {
 }
 
 bool SymbolScanner::ScanLine(int line, std::string_view utf8, int &functions, int &types) {
-    if (Settings_.ShowFunctions && BeginsWith(utf8, FunctionPrefix))
+    if (Settings_.ShowFunctions && BeginsWith(utf8, SourceLanguage.FunctionPrefix))
         return RecordFunction(TextOf(utf8), line, functions);
-    if (Settings_.ShowTypes && BeginsWith(utf8, TypePrefix))
+    if (Settings_.ShowTypes && BeginsWith(utf8, SourceLanguage.TypePrefix))
         RecordType(TextOf(utf8), line, types);
     return YieldedWithDocument();
 }
@@ -116,7 +114,8 @@ bool SymbolScanner::RecordFunction(const QString &text, int line, int &count) {
         return true;
     const auto name = [&]() -> QString & { return Registry_.Current().FunctionNames[count]; };
     name().clear();
-    for (qsizetype position = NameStart(FunctionPrefix); position < text.size(); ++position) {
+    for (qsizetype position = NameStart(SourceLanguage.FunctionPrefix); position < text.size();
+         ++position) {
         if (text[position] == u'(' || text[position] == u'.')
             break;
         name() += text[position];
@@ -136,7 +135,7 @@ void SymbolScanner::RecordType(const QString &text, int line, int &count) {
     if (count > SymbolTexts::LastIndex)
         return;
     Document &document = Registry_.Current();
-    document.TypeNames[count] = text.mid(NameStart(TypePrefix));
+    document.TypeNames[count] = text.mid(NameStart(SourceLanguage.TypePrefix));
     Lists_.AddItem(NavigationList::Types, document.TypeNames[count]);
     document.TypeLines[count] = QString::number(line);
     ++count;

@@ -23,8 +23,8 @@ struct RegisteredLanguage {
 };
 
 /// Fills the navigation lists and the language's user words from the current document. A
-/// declaration is a line that begins, in its first column and in any letter case, with "process"
-/// (functions) or "type" (types). Labels are never recognised.
+/// declaration is a line that begins, in its first column and in any letter case, with the prefix
+/// of functions or of types, whatever follows it. Labels are never recognised.
 class SymbolScanner {
   public:
     SymbolScanner(DocumentRegistry &registry, const Settings &settings, NavigationLists &lists,

@@ -3,6 +3,7 @@
 
 #include "documents/FileNames.h"
 #include "project/ProjectFile.h"
+#include "state/Language.h"
 #include "state/Project.h"
 #include "surfaces/Dialogs.h"
 
@@ -14,7 +15,7 @@ NewProject::NewProject(Project &open, PrivateProfile &profile, Dialogs &dialogs)
     , Dialogs_(dialogs) {}
 
 std::optional<QString> NewProject::cmdBrowse_Click() {
-    return Dialogs_.ShowOpen({FileChooserFlags::FileMustExist, SourceFilter});
+    return Dialogs_.ShowOpen({FileChooserFlags::FileMustExist, SourceLanguage.SourceFilter});
 }
 
 std::optional<QString> NewProject::cmdBrowseTarget_Click() {

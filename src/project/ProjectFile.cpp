@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "project/ProjectFile.h"
 
+#include "state/Language.h"
 #include "state/Project.h"
 
 namespace Quillbox {
@@ -14,7 +15,7 @@ constexpr int ValueCapacity = 5 * 1024;
 constexpr ProjectKey Keys[] = {
     {"Titulo", &Project::Title, "Sin Titulo"},
     {"Autor", &Project::Author, "Autor desconocido"},
-    {"MainSource", &Project::MainSource, "Main.bb"},
+    {"MainSource", &Project::MainSource, SourceLanguage.MainSource.data()},
     {"OtrosSource", &Project::OtherSources, ""},
     {"ToDoList", &Project::ToDoList, ""},
 };

@@ -3,6 +3,7 @@
 
 #include "documents/DocumentCommands.h"
 #include "project/PackedLists.h"
+#include "state/Language.h"
 #include "state/Project.h"
 #include "surfaces/Dialogs.h"
 #include "surfaces/EventLoop.h"
@@ -10,11 +11,6 @@
 #include "surfaces/MainWindow.h"
 
 namespace Quillbox {
-namespace {
-
-const QString FurtherSourceFilter = QStringLiteral("Programas de BlitzBasic3D (*.bb)|*.bb");
-
-} // namespace
 
 ProjectInfo::ProjectInfo(const ProjectInfoParts &parts)
     : Parts_(parts) {}
@@ -35,8 +31,8 @@ void ProjectInfo::Form_Unload(const ProjectInfoTexts &texts) {
 }
 
 std::optional<QString> ProjectInfo::cmdAñadir_Click() {
-    const auto chosen =
-        Parts_.Questions.ShowOpen({FileChooserFlags::FileMustExist, FurtherSourceFilter});
+    const auto chosen = Parts_.Questions.ShowOpen(
+        {FileChooserFlags::FileMustExist, SourceLanguage.FurtherSourceFilter});
     if (chosen)
         Parts_.Open.Modified = true;
     return chosen;

@@ -7,6 +7,7 @@
 #include "language/SymbolLists.h"
 #include "settings/SettingsWindow.h"
 #include "state/DocumentRegistry.h"
+#include "state/Language.h"
 #include "state/LanguageDefinition.h"
 #include "state/settings.h"
 #include "surfaces/DocumentWindow.h"
@@ -95,7 +96,7 @@ void SettingsDialog::RefreshSymbols() {
         return symbols.Scanner.ScanSymbols();
     LanguageDefinition &definition = symbols.Language.Definition;
     definition.UserWords.clear();
-    symbols.Language.Registration.RegisterLanguage(LanguageName, definition);
+    symbols.Language.Registration.RegisterLanguage(SourceLanguage.Name, definition);
     ClearNavigationLists(symbols.Lists);
 }
 

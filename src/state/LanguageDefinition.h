@@ -5,9 +5,6 @@
 
 namespace Quillbox {
 
-/// Name under which the definition is registered and editors select it.
-inline const QString LanguageName = QStringLiteral("Blitz3D");
-
 enum class CaseSensitivity { Off, On };
 
 /// The colouring rules that every editor uses. The lists are texts of items with line feeds between

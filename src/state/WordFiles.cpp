@@ -3,19 +3,21 @@
 
 #include "base/AnsiText.h"
 #include "base/TextItems.h"
+#include "state/Language.h"
 #include "surfaces/FileExists.h"
 #include "surfaces/Files.h"
 
 namespace Quillbox {
+
 void SetLanguageRules(LanguageDefinition &language) {
     language.Case = CaseSensitivity::Off;
-    language.SingleLineComment = QStringLiteral("//");
-    language.MultiLineCommentStart = QStringLiteral("/*");
-    language.MultiLineCommentEnd = QStringLiteral("*/");
-    language.StringDelimiter = QStringLiteral("\"");
+    language.SingleLineComment = SourceLanguage.SingleLineComment;
+    language.MultiLineCommentStart = SourceLanguage.MultiLineCommentStart;
+    language.MultiLineCommentEnd = SourceLanguage.MultiLineCommentEnd;
+    language.StringDelimiter = SourceLanguage.StringDelimiter;
     language.Operators.clear();
-    for (const QChar sign : QStringLiteral("+-*/^%&!=<>|.,;:[]()")) {
-        language.Operators += sign;
+    for (const char sign : SourceLanguage.Operators) {
+        language.Operators += QLatin1Char(sign);
         language.Operators += u'\n';
     }
 }
@@ -28,8 +30,7 @@ WordFiles::WordFiles(const QString &appDir, LanguageWords &words, Files &files, 
 
 void WordFiles::LoadKeywords() {
     int slot = 0;
-    for (const QString &item :
-         FreeFormatItems(ReadText(AppDir_ + QStringLiteral("Keywords.txt")))) {
+    for (const QString &item : FreeFormatItems(ReadText(AppDir_ + SourceLanguage.KeywordFile))) {
         Words_.KeywordTable[++slot] = item;
         Words_.LanguageDefinition.Keywords += u'\n' + item.toUpper();
     }
@@ -38,7 +39,7 @@ void WordFiles::LoadKeywords() {
 
 void WordFiles::LoadQuickHelp() {
     int slot = 0;
-    for (const QString &line : WholeLines(ReadText(AppDir_ + QStringLiteral("QuickHelp.txt"))))
+    for (const QString &line : WholeLines(ReadText(AppDir_ + SourceLanguage.QuickHelpFile)))
         Words_.QuickHelpTable[++slot] = line;
 }
 

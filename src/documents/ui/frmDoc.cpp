@@ -6,6 +6,7 @@
 #include "editor/ui/ScintillaEditor.h"
 #include "search/ui/FindCommands.h"
 #include "state/DocumentRegistry.h"
+#include "state/Language.h"
 #include "widgets/EventBoundary.h"
 
 #include <QCloseEvent>
@@ -23,9 +24,10 @@ struct PanelDesign {
     int Characters;
 };
 
-constexpr PanelDesign Panels[] = {
-    {"", 0}, {"Modificado", 12}, {"1 :1", 14}, {"Blitz3D", 9}, {"ANSI", 7}, {"", 0}, {"", 0},
-    {"", 0}};
+constexpr PanelDesign Panels[] = {{"", 0},      {"Modificado", 12},
+                                  {"1 :1", 14}, {SourceLanguage.Name.data(), 9},
+                                  {"ANSI", 7},  {"", 0},
+                                  {"", 0},      {"", 0}};
 
 constexpr int PanelIndent = 6;
 

@@ -3,6 +3,7 @@
 
 #include "editor/ui/ScintillaMarks.h"
 #include "editor/ui/ScintillaPrinting.h"
+#include "state/Language.h"
 
 #include <QFontDatabase>
 #include <QFontInfo>
@@ -137,7 +138,7 @@ TEST_F(Appearance, IsNotPaintedAgainForSettingsThatStayAsTheyAre) {
         Editor->SetFontStyle(FontStyleClass::Keyword, 1);
         Editor->SetTabSize(4);
         Editor->SetLineNumbers(true);
-        Editor->SetLanguage(LanguageName);
+        Editor->SetLanguage(SourceLanguage.Name);
     };
     apply();
     QCoreApplication::processEvents();

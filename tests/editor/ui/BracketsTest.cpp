@@ -2,6 +2,7 @@
 #include "KeyPresses.h"
 
 #include "editor/ui/ScintillaBrackets.h"
+#include "state/Language.h"
 
 namespace Quillbox::Test {
 
@@ -24,7 +25,7 @@ class Brackets : public EditorKeys {
     void LoadColoured(const QByteArray &bytes) {
         Load(bytes);
         Colouring.TextReplaced();
-        Colouring.SetRules(Languages.FindRules(LanguageName), LanguageChange::Everything);
+        Colouring.SetRules(Languages.FindRules(SourceLanguage.Name), LanguageChange::Everything);
     }
     BytePosition Jump(BytePosition caret) {
         Ask(QsciScintillaBase::SCI_GOTOPOS, caret);

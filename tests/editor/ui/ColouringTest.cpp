@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "EditorFixture.h"
+#include "state/Language.h"
 
 #include <random>
 
@@ -140,7 +141,7 @@ TEST_F(EditorColouring, FollowsANewDefinition) {
     EXPECT_EQ(Shown(), "kk.kkkk....");
     LanguageDefinition language = TestLanguage();
     language.Keywords = "\nFOO";
-    Languages.RegisterLanguage(LanguageName, language);
+    Languages.RegisterLanguage(SourceLanguage.Name, language);
     EXPECT_EQ(Shown(), "........kkk");
 }
 
@@ -161,7 +162,7 @@ TEST_F(EditorColouring, ShowsNewUserWordsInTheTextInView) {
     LanguageDefinition language = TestLanguage();
     language.UserWords = "\nfoo0\nfoo1500\nfoo2990";
     Editor->SetTopIndex({1500});
-    Languages.RegisterLanguage(LanguageName, language);
+    Languages.RegisterLanguage(SourceLanguage.Name, language);
     const std::intptr_t farBelow = Text().LineStart({2000});
     Editor->grab();
     EXPECT_LT(ColouredEnd(), farBelow);
@@ -187,7 +188,7 @@ TEST_F(EditorColouring, OfScrolledTextWithNewUserWordsIsThatOfTheRules) {
         const int line = static_cast<int>(random() % 2000);
         if (round % 3 == 0) {
             language.UserWords = "\nfoo" + QString::number(line);
-            Languages.RegisterLanguage(LanguageName, language);
+            Languages.RegisterLanguage(SourceLanguage.Name, language);
         }
         if (round % 5 == 0)
             Editor->InsertText(round % 2 == 0 ? "foo7 \"" : "/* x */\n", At(line, 0));
@@ -211,13 +212,13 @@ TEST_F(EditorColouring, PaintsNoMoreOnceNothingChanges) {
     PaintCounter counter(*Editor->viewport());
     LanguageDefinition language = TestLanguage();
     language.UserWords = "\nfoo3";
-    Languages.RegisterLanguage(LanguageName, language);
+    Languages.RegisterLanguage(SourceLanguage.Name, language);
     for (int round = 0; round < 20; ++round)
         QCoreApplication::processEvents();
     EXPECT_GE(counter.Count, 1);
     EXPECT_LE(counter.Count, 3);
     const int before = counter.Count;
-    Languages.RegisterLanguage(LanguageName, language);
+    Languages.RegisterLanguage(SourceLanguage.Name, language);
     for (int round = 0; round < 20; ++round)
         QCoreApplication::processEvents();
     EXPECT_EQ(counter.Count, before);

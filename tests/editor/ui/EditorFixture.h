@@ -4,6 +4,7 @@
 #include "editor/ui/LanguageCatalogue.h"
 #include "editor/ui/ScintillaEditor.h"
 #include "fakes/PaintCounter.h"
+#include "state/Language.h"
 #include "surfaces/Dialogs.h"
 
 #include <gtest/gtest.h>
@@ -49,13 +50,13 @@ inline LanguageDefinition TestLanguage() {
 class EditorTest : public testing::Test {
   protected:
     EditorTest() {
-        Languages.RegisterLanguage(LanguageName, TestLanguage());
+        Languages.RegisterLanguage(SourceLanguage.Name, TestLanguage());
         Editor = NewEditor();
     }
 
     std::unique_ptr<ScintillaEditor> NewEditor() {
         auto editor = std::make_unique<ScintillaEditor>(Languages, Messages);
-        editor->SetLanguage(LanguageName);
+        editor->SetLanguage(SourceLanguage.Name);
         editor->resize(600, 400);
         return editor;
     }
