@@ -4,7 +4,7 @@
 
 #include "base/AnsiText.h"
 #include "base/RuntimeError.h"
-#include "build/CompilerLog.h"
+#include "build/MessageShapes.h"
 
 using namespace Quillbox;
 

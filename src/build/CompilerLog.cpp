@@ -2,10 +2,11 @@
 #include "build/CompilerLog.h"
 
 #include "base/AnsiText.h"
+#include "base/Characters.h"
 #include "base/Numbers.h"
 #include "base/Paths.h"
 #include "base/RuntimeError.h"
-#include "base/TextItems.h"
+#include "build/MessageShapes.h"
 #include "documents/DocumentCommands.h"
 #include "state/DocumentRegistry.h"
 #include "surfaces/Dialogs.h"
@@ -19,19 +20,6 @@
 namespace Quillbox {
 namespace {
 
-const QString ErrorStart = QStringLiteral("Error in file");
-const QString BeforeLine = QStringLiteral(" at line");
-const QString LineMark = QStringLiteral("at line");
-
-/// The text from `start` up to, not including, `end`; both 0-based.
-QString Cut(const QString &text, qsizetype start, qsizetype end) {
-    if (end < start)
-        throw InvalidArgument();
-    return text.mid(start, end - start);
-}
-
-bool IsDigit(QChar character) { return character >= u'0' && character <= u'9'; }
-
 /// The line that a text beginning with a 1-based number means, -1 without a number. Only blanks and
 /// decimal digits count: a sign or a point is message already. A number that no line can have means
 /// the last line that can be named, so that the person still gets to read the error.
@@ -44,20 +32,6 @@ LineIndex LineOf(const QString &lineText) {
 }
 
 } // namespace
-
-std::optional<QString> FindErrorLine(const QString &log) {
-    for (const QString &line : WholeLines(log))
-        if (line.startsWith(ErrorStart))
-            return line;
-    return std::nullopt;
-}
-
-ErrorLocation LocateError(const QString &errorLine) {
-    const qsizetype lineTextStart = errorLine.indexOf(LineMark) + LineMark.size();
-    const qsizetype fileTextStart = ErrorStart.size() + 1;
-    return {.FileText = Cut(errorLine, fileTextStart, errorLine.indexOf(BeforeLine)),
-            .LineText = Cut(errorLine, lineTextStart, errorLine.lastIndexOf(u':'))};
-}
 
 /// The separator stands twice, because the program folder ends in one already; the file system
 /// accepts that.

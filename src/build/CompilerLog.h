@@ -3,28 +3,12 @@
 
 #include <QString>
 
-#include <optional>
-
 namespace Quillbox {
 
 class Dialogs;
 class DocumentCommands;
 class Files;
 struct DocumentRegistry;
-
-/// What a compiler's error line says, cut out without any trimming.
-struct ErrorLocation {
-    QString FileText; ///< the file's name as the compiler prints it
-    QString LineText; ///< begins with the 1-based line number; may run on into the message
-};
-
-/// The first line of `log` that begins with "Error in file".
-std::optional<QString> FindErrorLine(const QString &log);
-
-/// Cuts an error line of the shape `Error in file NAME at line NUMBER: MESSAGE`: the file text ends
-/// at the first " at line", the line text at the last colon of the line. A line without these parts
-/// is run-time error 5.
-ErrorLocation LocateError(const QString &errorLine);
 
 /// Reads the compilers' output and stands the person on the first error.
 class CompilerLog {

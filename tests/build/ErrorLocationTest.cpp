@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // How an error line is found in a log and cut into its parts.
-#include "build/CompilerLog.h"
+#include "build/MessageShapes.h"
 #include "fakes/CallLog.h"
 #include "fakes/ErrorNumber.h"
 #include "fakes/TestRow.h"
