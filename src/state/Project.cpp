@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "state/Project.h"
 
+#include "base/Version.h"
 #include "surfaces/MainWindow.h"
 
 namespace Quillbox {
 
 QString ProjectCaption(const QString &title) {
-    return QStringLiteral("Quillbox v1.0 - <Proyecto: ") + title + u'>';
+    return QStringLiteral("Quillbox v" QUILLBOX_VERSION " - <Proyecto: ") + title + u'>';
 }
 
 void EnableProjectMenus(MainWindow &mainWindow, bool enabled) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "base/Version.h"
+
 #include <QString>
 
 namespace Quillbox {
@@ -25,7 +27,8 @@ struct Project {
 inline const QString ProjectFilter = QStringLiteral("Proyectos de Fenix (*.fp)|*.fp");
 
 /// The main window's caption while no project is open.
-inline const QString NoProjectCaption = QStringLiteral("Quillbox v1.0 - <Proyecto no abierto>");
+inline const QString NoProjectCaption =
+    QStringLiteral("Quillbox v" QUILLBOX_VERSION " - <Proyecto no abierto>");
 
 /// The main window's caption while a project is open.
 QString ProjectCaption(const QString &title);

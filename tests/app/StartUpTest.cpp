@@ -2,6 +2,7 @@
 #include "app/StartUp.h"
 
 #include "base/Paths.h"
+#include "base/Version.h"
 #include "fakes/ErrorNumber.h"
 #include "fakes/FakeProgram.h"
 #include "state/WordFiles.h"
@@ -54,7 +55,7 @@ TEST_F(StartingUp, RunsItsStepsInOrder) {
 TEST_F(StartingUp, SaysThatNoProjectIsOpen) {
     Run();
 
-    EXPECT_EQ(Main.Caption, QString("Quillbox v1.0 - <Proyecto no abierto>"));
+    EXPECT_EQ(Main.Caption, QString("Quillbox v" QUILLBOX_VERSION " - <Proyecto no abierto>"));
 }
 
 TEST_F(StartingUp, DisablesTheDocumentCommandsAndThenTheProjectItems) {

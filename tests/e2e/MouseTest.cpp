@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ProgramTest.h"
+#include "base/Version.h"
 
 namespace Quillbox {
 namespace {
@@ -133,8 +134,9 @@ TEST_F(Mouse, KeepsTheNamesOfDocumentsWhoseWindowsLieBesideEachOther) {
     const QString other = Write(QStringLiteral("otro.prg"), "2");
     ASSERT_TRUE(Open(other));
     ASSERT_TRUE(Click(DocumentRestoreBox));
-    ASSERT_NE(
-        Person_.WaitForWindow(Exactly(QStringLiteral("Quillbox v1.0 - <Proyecto no abierto>"))), 0);
+    ASSERT_NE(Person_.WaitForWindow(Exactly(
+                  QStringLiteral("Quillbox v" QUILLBOX_VERSION " - <Proyecto no abierto>"))),
+              0);
     ASSERT_TRUE(Press({QStringLiteral("ctrl+shift+F6")}));
     ASSERT_TRUE(Shows(Game_));
     Person_.Type(QStringLiteral("x"));

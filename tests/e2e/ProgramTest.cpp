@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ProgramTest.h"
+#include "base/Version.h"
 
 #include <QDir>
 #include <QFile>
@@ -13,7 +14,8 @@ bool WriteBytes(const QString &path, const QByteArray &bytes) {
 }
 
 QString TitleWith(const QString &document) {
-    return Exactly(QStringLiteral("Quillbox v1.0 - <Proyecto no abierto> - [%1]").arg(document));
+    return Exactly(QStringLiteral("Quillbox v" QUILLBOX_VERSION " - <Proyecto no abierto> - [%1]")
+                       .arg(document));
 }
 
 } // namespace

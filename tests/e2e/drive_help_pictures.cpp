@@ -5,6 +5,7 @@
 #include "Desktop.h"
 #include "Person.h"
 #include "ProgramRun.h"
+#include "base/Version.h"
 
 #include <QDir>
 #include <QFile>
@@ -29,7 +30,7 @@ constexpr int GraphicsLine = 12; ///< of the example, 1-based
 constexpr int BlankLine = 4;
 constexpr int PatienceForWindow = 5000; ///< a feature that is there opens its window at once
 
-const QString AnyMainTitle = QStringLiteral("^Quillbox v1.0");
+const QString AnyMainTitle = QStringLiteral("^Quillbox v" QUILLBOX_VERSION);
 const QString SplashTitle = QStringLiteral("El equipo de Quillbox");
 const QString NoticeTitle = QStringLiteral("^Quillbox$");
 const QString OpenTitle = QStringLiteral("^Abrir$");

@@ -4,6 +4,7 @@
 #include "Desktop.h"
 #include "Person.h"
 #include "ProgramRun.h"
+#include "base/Version.h"
 
 #include <QDir>
 #include <QGuiApplication>
@@ -36,7 +37,8 @@ class MainJob {
     }
 
   private:
-    static inline const QString MainTitle = QStringLiteral("Quillbox v1.0 - <Proyecto");
+    static inline const QString MainTitle =
+        QStringLiteral("Quillbox v" QUILLBOX_VERSION " - <Proyecto");
     static inline const QString SplashTitle = QStringLiteral("El equipo de Quillbox");
     static inline const QString NoticeTitle = QStringLiteral("^Quillbox$");
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "project/NewProject.h"
+#include "base/Version.h"
 
 #include "project/ProjectProgram.h"
 
@@ -19,7 +20,7 @@ TEST_F(TheNewProjectCommand, OpensWhatTheDialogMade) {
     Projects.mnuArchivo_NuevoProyecto_Click();
 
     EXPECT_EQ(Steps().front(), "frmNewProject");
-    EXPECT_EQ(Main.Caption, "Quillbox v1.0 - <Proyecto: Nuevo>");
+    EXPECT_EQ(Main.Caption, "Quillbox v" QUILLBOX_VERSION " - <Proyecto: Nuevo>");
     EXPECT_TRUE(Main.Enabled["mnuArchivo_GuardarProyecto"]);
 }
 
@@ -34,7 +35,8 @@ TEST_F(TheNewProjectCommand, ClosesTheOpenProjectFirst) {
 
     Projects.mnuArchivo_NuevoProyecto_Click();
 
-    EXPECT_EQ(Steps().front(), "main.SetCaption Quillbox v1.0 - <Proyecto no abierto>");
+    EXPECT_EQ(Steps().front(),
+              "main.SetCaption Quillbox v" QUILLBOX_VERSION " - <Proyecto no abierto>");
     EXPECT_EQ(Steps().back(), "frmNewProject");
     EXPECT_EQ(Opened.File, "");
 }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "base/Version.h"
 #include "project/ProjectProgram.h"
 
 namespace Quillbox {
@@ -19,14 +20,15 @@ TEST_F(OpeningAProject, ReadsTheKeysShowsTheTitleEnablesTheItemsAndOpensTheMainS
 
     Projects.OpenProject("/j/juego.fp");
 
-    EXPECT_THAT(Steps(), ElementsAre("profile.ReadString Proyecto Titulo 5120 /j/juego.fp",
-                                     "profile.ReadString Proyecto Autor 5120 /j/juego.fp",
-                                     "profile.ReadString Proyecto MainSource 5120 /j/juego.fp",
-                                     "profile.ReadString Proyecto OtrosSource 5120 /j/juego.fp",
-                                     "profile.ReadString Proyecto ToDoList 5120 /j/juego.fp",
-                                     "main.SetCaption Quillbox v1.0 - <Proyecto: Juego>",
-                                     Enabling[0], Enabling[1], Enabling[2], "files.CanRead m.prg",
-                                     "editor.OpenFile m.prg"));
+    EXPECT_THAT(Steps(),
+                ElementsAre("profile.ReadString Proyecto Titulo 5120 /j/juego.fp",
+                            "profile.ReadString Proyecto Autor 5120 /j/juego.fp",
+                            "profile.ReadString Proyecto MainSource 5120 /j/juego.fp",
+                            "profile.ReadString Proyecto OtrosSource 5120 /j/juego.fp",
+                            "profile.ReadString Proyecto ToDoList 5120 /j/juego.fp",
+                            "main.SetCaption Quillbox v" QUILLBOX_VERSION " - <Proyecto: Juego>",
+                            Enabling[0], Enabling[1], Enabling[2], "files.CanRead m.prg",
+                            "editor.OpenFile m.prg"));
     EXPECT_EQ(Opened.File, "/j/juego.fp");
 }
 
@@ -65,7 +67,7 @@ TEST_F(OpeningAProject, TakesTheDefaultsFromAFileWithoutItsSection) {
     EXPECT_EQ(Opened.MainSource, "Main.bb");
     EXPECT_EQ(Opened.OtherSources, "");
     EXPECT_EQ(Opened.ToDoList, "");
-    EXPECT_EQ(Main.Caption, "Quillbox v1.0 - <Proyecto: Sin Titulo>");
+    EXPECT_EQ(Main.Caption, "Quillbox v" QUILLBOX_VERSION " - <Proyecto: Sin Titulo>");
 }
 
 TEST_F(OpeningAProject, CutsATitleAfter5119Characters) {
@@ -95,7 +97,7 @@ TEST_F(OpeningAProject, SkipsARunTimeErrorOfItsMainSource) {
 
     EXPECT_NO_THROW(Projects.OpenProject("/j/juego.fp"));
 
-    EXPECT_EQ(Main.Caption, "Quillbox v1.0 - <Proyecto: Juego>");
+    EXPECT_EQ(Main.Caption, "Quillbox v" QUILLBOX_VERSION " - <Proyecto: Juego>");
     EXPECT_TRUE(Main.Enabled["mnuArchivo_CerrarProyecto"]);
 }
 

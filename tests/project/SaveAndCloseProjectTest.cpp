@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "base/Version.h"
 #include "project/ProjectProgram.h"
 
 namespace Quillbox {
@@ -10,7 +11,7 @@ using testing::Pair;
 
 const std::string Question =
     "dialogs.ShowMessage El proyecto ha sido modificado, ¿quieres guardar los cambios?";
-const std::string Closed = "main.SetCaption Quillbox v1.0 - <Proyecto no abierto>";
+const std::string Closed = "main.SetCaption Quillbox v" QUILLBOX_VERSION " - <Proyecto no abierto>";
 const std::string Disabling[] = {"main.EnableCommand mnuArchivo_GuardarProyecto false",
                                  "main.EnableCommand mnuArchivo_GuardarProyectoComo false",
                                  "main.EnableCommand mnuArchivo_CerrarProyecto false"};
@@ -62,7 +63,7 @@ TEST_F(SavingAProject, AsWritesToTheChosenFileAndKeepsTheTitleOfTheWindow) {
     EXPECT_EQ(Questions.Choosers[0].Flags, FileChooserFlags::OverwritePrompt);
     EXPECT_EQ(static_cast<int>(Questions.Choosers[0].Flags), 2);
     EXPECT_EQ(Opened.File, "/j/copia.fp");
-    EXPECT_EQ(Main.Caption, "Quillbox v1.0 - <Proyecto: Juego>");
+    EXPECT_EQ(Main.Caption, "Quillbox v" QUILLBOX_VERSION " - <Proyecto: Juego>");
     EXPECT_FALSE(Opened.Modified);
 }
 

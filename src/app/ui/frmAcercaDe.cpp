@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/ui/frmAcercaDe.h"
 
+#include "base/Version.h"
+
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
@@ -71,7 +73,8 @@ void frmAcercaDe::BuildHead(QVBoxLayout &layout) {
     names->setSpacing(2);
     names->addStretch();
     names->addWidget(title);
-    names->addWidget(NewLabel(QStringLiteral("lblVersion"), QStringLiteral("Versión 1.0")));
+    names->addWidget(
+        NewLabel(QStringLiteral("lblVersion"), QStringLiteral("Versión " QUILLBOX_VERSION)));
     names->addStretch();
     auto *head = new QHBoxLayout;
     head->setSpacing(Margin * 4 / 5);

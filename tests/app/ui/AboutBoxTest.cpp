@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/ui/frmAcercaDe.h"
 
+#include "base/Version.h"
 #include "fakes/UiProgram.h"
 
 #include <QFrame>
@@ -26,7 +27,7 @@ class AboutBox : public testing::Test {
 TEST_F(AboutBox, NamesTheProgramAndItsVersion) {
     EXPECT_EQ(Box.windowTitle(), "Acerca de Quillbox");
     EXPECT_EQ(TextOf("lblTitle"), "Quillbox");
-    EXPECT_EQ(TextOf("lblVersion"), "Versión 1.0");
+    EXPECT_EQ(TextOf("lblVersion"), "Versión " QUILLBOX_VERSION);
     EXPECT_FALSE(In<QLabel>("picIcon").pixmap().isNull());
     EXPECT_EQ(Box.findChildren<QFrame *>(QRegularExpression("^linSeparador")).size(), 2);
 }

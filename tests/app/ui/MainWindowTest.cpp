@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Menus.h"
 #include "app/Toolbar.h"
+#include "base/Version.h"
 #include "fakes/UiProgram.h"
 
 #include <QComboBox>
@@ -35,8 +36,8 @@ class MainWindowTest : public UiProgram {
 };
 
 TEST_F(MainWindowTest, StartsOnTheHelpPageWithoutDocument) {
-    EXPECT_TRUE(
-        Main().windowTitle().startsWith(QStringLiteral("Quillbox v1.0 - <Proyecto no abierto>")));
+    EXPECT_TRUE(Main().windowTitle().startsWith(
+        QStringLiteral("Quillbox v" QUILLBOX_VERSION " - <Proyecto no abierto>")));
     EXPECT_EQ(Registry().CurrentIndex, 0);
     EXPECT_EQ(Find<QTabBar>(QStringLiteral("tabDocuments"))->count(), 1);
     EXPECT_TRUE(Find<QWidget>(QStringLiteral("htmlAyuda"))->isVisible());

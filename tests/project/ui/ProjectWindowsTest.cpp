@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "base/Version.h"
 #include "fakes/UiProgram.h"
 #include "project/ui/EntryList.h"
 #include "project/ui/frmNewProject.h"
@@ -130,7 +131,8 @@ TEST_F(ProjectWindows, TitleTheMainWindowBesideTheActiveDocument) {
     OpenProject("[Proyecto]\r\nTitulo=Juego\r\nMainSource=" + QFile::encodeName(source) + "\r\n");
 
     EXPECT_EQ(Main().windowTitle(),
-              QStringLiteral("Quillbox v1.0 - <Proyecto: Juego> - [") + source + u']');
+              QStringLiteral("Quillbox v" QUILLBOX_VERSION " - <Proyecto: Juego> - [") + source +
+                  u']');
 }
 
 TEST_F(ProjectWindows, DoNotOpenWithoutAProject) {
@@ -222,8 +224,8 @@ TEST_F(ProjectWindows, MakeANewProjectAndOpenIt) {
     EXPECT_EQ(Read(QStringLiteral("nuevo.fp")),
               "[Proyecto]\r\nTitulo=El ca\xf1\xf3n\r\nAutor=Eva\r\nMainSource=" +
                   QFile::encodeName(source) + "\r\nOtrosSource=\r\nToDoList=\r\n");
-    EXPECT_TRUE(
-        Main().windowTitle().startsWith(QStringLiteral("Quillbox v1.0 - <Proyecto: El cañón>")));
+    EXPECT_TRUE(Main().windowTitle().startsWith(
+        QStringLiteral("Quillbox v" QUILLBOX_VERSION " - <Proyecto: El cañón>")));
     EXPECT_EQ(Registry().DocumentCount, 1);
 }
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "base/Version.h"
 #include "settings/ui/SettingsDialogProgram.h"
 
 #include <QGroupBox>
@@ -48,7 +49,7 @@ constexpr ControlRow Controls[] = {
     {"chkFunciones", "Procesos", "Recopila la lista de funciones programadas"},
     {"chkLabels", "Etiquetas", "Recopila una lista de etiquetas establecidas"},
     {"chkTypes", "Types", "Recopila una lista de Types definidos"},
-    {"Label5", "Quillbox v1.0 · El equipo de Quillbox · 2026", ""},
+    {"Label5", "Quillbox v" QUILLBOX_VERSION " · El equipo de Quillbox · 2026", ""},
     {"cmdAceptar", "&Aceptar", "Guarda los cambios"},
     {"cmdAplicar", "A&plicar", "Aplica los cambios"},
     {"cmdCancelar", "&Cancelar", "Cancela los cambios"},
