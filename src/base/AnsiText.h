@@ -14,7 +14,7 @@ namespace Quillbox {
 
 /// The 256 characters of the system's ANSI code page, by byte value. A byte that the code page
 /// leaves without a character stands for the control character of the same number, so that every
-/// byte has exactly one character and comes back as it was.
+/// byte has exactly one character and comes back as it was. Each system defines it.
 const std::array<char16_t, 256> &AnsiCodePage();
 
 /// True when the code page has a byte for `character`.

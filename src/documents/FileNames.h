@@ -10,7 +10,7 @@ struct FileNameParts {
     QString FileName;
 };
 
-/// Splits at the last separator. On Linux a path in Windows form splits at its last "\".
+/// Splits at the last separator. A path in Windows form splits at its last "\".
 FileNameParts SplitFileName(const QString &path);
 
 /// `text` without its last `count` characters; run-time error 5 when it is shorter.

@@ -87,8 +87,4 @@ void EditorView::ShowCaretPosition() {
         QStringLiteral("%1 :%2").arg(NumberOf(caret.Line).Value).arg(NumberOf(caret.Column).Value));
 }
 
-DocumentLayout LayOutDocument(int windowWidth, int statusBarTop, int frameWidth, int otherPanels) {
-    return {windowWidth - frameWidth, statusBarTop, windowWidth - otherPanels};
-}
-
 } // namespace Quillbox

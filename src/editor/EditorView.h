@@ -46,18 +46,7 @@ class EditorView {
 
     DocumentWindow &Window_;
     EditorViewParts Parts_;
-    double LineCountAtKeyDown_ = 0;
+    int LineCountAtKeyDown_ = 0;
 };
-
-/// Sizes of a document's window in units of 1/1440 inch or in pixels, as the caller likes.
-struct DocumentLayout {
-    int EditorWidth;
-    int EditorHeight;
-    int FirstPanelMinimumWidth;
-};
-
-/// Where editor and first status panel end. `frameWidth` is what the window's frame takes of its
-/// width; `otherPanels` is the sum of the minimum widths of panels 2 to 8.
-DocumentLayout LayOutDocument(int windowWidth, int statusBarTop, int frameWidth, int otherPanels);
 
 } // namespace Quillbox

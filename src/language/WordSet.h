@@ -21,7 +21,9 @@ constexpr bool IsWordByte(char byte) {
 /// The form in which words are compared: upper case unless the language tells cases apart.
 std::string FoldedWord(std::string_view utf8, CaseSensitivity sensitivity);
 
-/// A set of words, each with a mark, made for finding the words of a long text.
+/// A set of words, each with a mark, made for finding the words of a long text. The
+/// words of the text are looked up as they stand there; a QSet would want a text of its own for
+/// each.
 class WordSet {
   public:
     using Mark = std::uint8_t;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "media/ImagePreview.h"
 
-#include "base/Twips.h"
 #include "media/ImagePreviewWindow.h"
 #include "surfaces/MainWindow.h"
 
@@ -10,12 +9,12 @@
 namespace Quillbox {
 namespace {
 
-/// What frame and title bar take of the window's height.
-constexpr int FrameHeightTwips = 400;
+/// What the frame, with the title bar, takes of the window's size in twips, 1/1440 inch.
+constexpr QSize FrameTwips(115, 400);
 
 QSize FrameAllowance(int dotsPerInch) {
-    return {PixelsOfTwips(FrameWidthTwips, dotsPerInch),
-            PixelsOfTwips(FrameHeightTwips, dotsPerInch)};
+    constexpr int twipsPerInch = 1440;
+    return (FrameTwips.toSizeF() * dotsPerInch / twipsPerInch).toSize();
 }
 
 /// A picture that is smaller than this in both directions is enlarged.

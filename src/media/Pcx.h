@@ -5,7 +5,8 @@
 
 namespace Quillbox {
 
-/// Reads the bytes of a .pcx file: 256 colours with a palette, or 24 bits of colour.
+/// Reads the bytes of a .pcx file: 256 colours with a palette, or 24 bits of colour. Qt
+/// reads none of them.
 Raster ReadPcx(QByteArrayView bytes);
 
 } // namespace Quillbox

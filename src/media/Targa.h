@@ -5,7 +5,8 @@
 
 namespace Quillbox {
 
-/// Reads the bytes of a .tga file: colour, grey or with a palette, plain or run-length coded.
+/// Reads the bytes of a .tga file: colour, grey or with a palette, plain or run-length coded. Qt
+/// reads none of them.
 Raster ReadTarga(QByteArrayView bytes);
 
 } // namespace Quillbox

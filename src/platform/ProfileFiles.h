@@ -5,7 +5,8 @@
 
 namespace Quillbox {
 
-/// The private-profile files of the disk.
+/// The private-profile files of the disk, on every system. QSettings drops comments, escapes
+/// values and knows no ANSI code page.
 class ProfileFiles : public PrivateProfile {
   public:
     QString ReadString(const QString &section, const QString &key, const QString &defaultValue,

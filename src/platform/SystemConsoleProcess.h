@@ -7,8 +7,9 @@
 
 namespace Quillbox {
 
-/// Pipes and processes of the system. A handle that is closed a second time is left alone, since
-/// its number may belong to something else by then.
+/// Of each system: its pipes and processes. A handle that is closed a second time is left alone,
+/// since its number may belong to something else by then. QProcess reads while the process runs;
+/// here nothing reads before its end, and what the pipe does not hold stops the process.
 class SystemConsoleProcess : public ConsoleProcess {
   public:
     std::optional<PipeHandles> CreatePipe(std::size_t size) override;

@@ -5,7 +5,7 @@
 
 namespace Quillbox {
 
-/// The files of the disk.
+/// The files of the disk, on every system.
 class SystemFiles : public Files {
   public:
     bool CanRead(const QString &path) override;

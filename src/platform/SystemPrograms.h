@@ -5,7 +5,7 @@
 
 namespace Quillbox {
 
-/// The programs of the system.
+/// Of each system: its programs.
 class SystemPrograms : public Programs {
   public:
     void Start(const QString &commandLine, WindowStyle style) override;

@@ -14,7 +14,8 @@ namespace Quillbox {
 bool CutsAWord(std::string_view text, ByteRange range);
 
 /// Looks for a term as it stands. It looks at the byte where a match would end and skips as many as
-/// that byte allows, so that most of the text is not looked at.
+/// that byte allows, so that most of the text is not looked at. Qt's own searches
+/// want the whole text as a QString, or know no letter case.
 class PlainSearch final : public TextSearch {
   public:
     explicit PlainSearch(const FindRequest &request);

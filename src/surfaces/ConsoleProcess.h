@@ -10,7 +10,7 @@
 
 namespace Quillbox {
 
-/// Handles of the system: file descriptors and process numbers on Linux.
+/// What a system knows a pipe, a process or a thread by.
 using SystemHandle = std::intptr_t;
 
 struct PipeHandles {

@@ -18,7 +18,7 @@ class DocumentWindow {
     virtual EditorControl &Editor() = 0;
     virtual QString Caption() const = 0;
     virtual void SetCaption(const QString &caption) = 0;
-    /// Ready to come into view, which happens when it is first activated.
+    /// Takes its place among the document windows. It comes into view when it is first activated.
     virtual void Show() = 0;
     /// Makes it the active child.
     virtual void Activate() = 0;

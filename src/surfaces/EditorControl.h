@@ -106,8 +106,6 @@ class EditorControl {
     /// Hands over the lines from the first to the last, without a copy. The text must not change
     /// meanwhile.
     virtual void VisitLines(const LineVisitor &visit) const = 0;
-    /// In characters, without the line end.
-    virtual int LineLength(LineIndex line) const = 0;
     /// Puts the caret at the start of `line` and brings it into view.
     virtual void SetLinePosition(LineIndex line) = 0;
 

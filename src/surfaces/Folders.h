@@ -10,7 +10,7 @@ namespace Quillbox {
 
 /// Where walking the disks begins: a drive of the system or a place that a person looks for files.
 struct Drive {
-    QString Path;  ///< of its root folder: "C:\" on Windows, "/" or "/media/eva/USB" on Linux
+    QString Path;  ///< of its root folder: "C:\", "/" or "/media/eva/USB"
     QString Label; ///< what people call it; empty when it has no name
     bool operator==(const Drive &) const = default;
 };

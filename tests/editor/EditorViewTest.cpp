@@ -2,7 +2,6 @@
 #include "editor/EditorView.h"
 
 #include "EditorProgram.h"
-#include "base/Twips.h"
 #include "editor/ApplyEditorSettings.h"
 
 namespace Quillbox {
@@ -149,18 +148,6 @@ TEST_F(ViewOfADocument, LeavesOtherControlCharactersToTheEditor) {
     for (const int code : {0, 1, 4, 6, 13, 69, 101})
         EXPECT_FALSE(View.txtCode_KeyPress(code)) << code;
     EXPECT_THAT(Log.Calls(), IsEmpty());
-}
-
-TEST(DocumentLayoutTest, TakesTheFrameFromTheEditorsWidth) {
-    EXPECT_EQ(LayOutDocument(10000, 7000, FrameWidthTwips, 3000).EditorWidth, 9885);
-}
-
-TEST(DocumentLayoutTest, LetsTheEditorReachDownToTheStatusBar) {
-    EXPECT_EQ(LayOutDocument(10000, 7000, FrameWidthTwips, 3000).EditorHeight, 7000);
-}
-
-TEST(DocumentLayoutTest, GivesTheFirstPanelWhatTheOthersLeave) {
-    EXPECT_EQ(LayOutDocument(10000, 7000, FrameWidthTwips, 3000).FirstPanelMinimumWidth, 7000);
 }
 
 } // namespace

@@ -55,9 +55,6 @@ class FakeEditor : public EditorControl {
             if (!visit({line}, LineText({line}).toStdString()))
                 return;
     }
-    int LineLength(LineIndex line) const override {
-        return static_cast<int>(LineText(line).size());
-    }
     void SetLinePosition(LineIndex line) override {
         Log_.Add("editor.SetLinePosition", line.Value);
     }

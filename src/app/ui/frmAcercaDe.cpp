@@ -2,6 +2,7 @@
 #include "app/ui/frmAcercaDe.h"
 
 #include "base/Version.h"
+#include "widgets/Controls.h"
 
 #include <QHBoxLayout>
 #include <QIcon>
@@ -28,8 +29,7 @@ const QString Disclaimer = QStringLiteral(
     "programas.");
 
 QLabel *NewLabel(const QString &name, const QString &text) {
-    auto *label = new QLabel(text);
-    label->setObjectName(name);
+    auto *label = NewControl<QLabel>(name, text);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     return label;
@@ -95,8 +95,7 @@ void frmAcercaDe::BuildTexts(QVBoxLayout &layout) {
 }
 
 void frmAcercaDe::BuildButton(QVBoxLayout &layout) {
-    auto *cmdAceptar = new QPushButton(QStringLiteral("Aceptar"));
-    cmdAceptar->setObjectName(QStringLiteral("cmdAceptar"));
+    auto *cmdAceptar = NewControl<QPushButton>("cmdAceptar", "Aceptar");
     cmdAceptar->setDefault(true);
     connect(cmdAceptar, &QPushButton::clicked, this, &QDialog::accept);
     auto *row = new QHBoxLayout;

@@ -18,7 +18,7 @@ class DocumentArea final : public QMdiArea {
     explicit DocumentArea(QWidget *parent = nullptr);
     ~DocumentArea() override;
 
-    /// Takes the window over; it is not shown yet.
+    /// Takes the window over; it does not come into view yet.
     void Add(QMdiSubWindow *window);
     void Show(QMdiSubWindow *window);
     /// Makes `window` the active child.

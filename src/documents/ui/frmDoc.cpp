@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "documents/ui/frmDoc.h"
 
-#include "base/Twips.h"
 #include "documents/ui/DocumentArea.h"
 #include "editor/ui/ScintillaEditor.h"
 #include "search/ui/FindCommands.h"
 #include "state/DocumentRegistry.h"
 #include "state/Language.h"
+#include "widgets/Controls.h"
 #include "widgets/EventBoundary.h"
 
 #include <QCloseEvent>
@@ -51,6 +51,7 @@ frmDoc::frmDoc(const DocumentWindowParts &parts)
     setWindowTitle(UntitledName);
     txtCode->setObjectName(QStringLiteral("txtCode"));
     BuildStatusBar();
+    PutOverStatusBar(*Client_, *txtCode, *stbBarraEstado);
     setWidget(Client_);
     LeaveCtrlWToFileMenu(*systemMenu());
     setFocusProxy(txtCode);
@@ -58,7 +59,6 @@ frmDoc::frmDoc(const DocumentWindowParts &parts)
     Client_->installEventFilter(this);
     ConnectFinding(*txtCode, parts.Find);
     ConnectEditor();
-    Parts_.Area.Add(this);
     View_.Form_Load();
 }
 
@@ -68,9 +68,9 @@ QString frmDoc::Caption() const { return windowTitle(); }
 
 void frmDoc::SetCaption(const QString &caption) { setWindowTitle(caption); }
 
-/// Comes into view when its tab is selected, which follows at once. Shown before, it would be
+/// Comes into view when its tab is selected, which follows at once. Seen before, it would be
 /// painted and its text scanned in a size that it loses in the next moment.
-void frmDoc::Show() {}
+void frmDoc::Show() { Parts_.Area.Add(this); }
 
 void frmDoc::Activate() {
     Parts_.Area.Activate(this);
@@ -95,8 +95,6 @@ void frmDoc::SetPanelText(StatusPanel panel, const QString &text) {
 void frmDoc::EnablePanel(StatusPanel panel, bool enabled) { PanelAt(panel).setEnabled(enabled); }
 
 bool frmDoc::eventFilter(QObject *watched, QEvent *event) {
-    if (watched == Client_ && event->type() == QEvent::Resize)
-        LayOut();
     if (watched == Client_ && event->type() == QEvent::Paint)
         Parts_.Boundary.Run([this] { View_.Form_Paint(); });
     return QMdiSubWindow::eventFilter(watched, event);
@@ -124,6 +122,8 @@ void frmDoc::BuildStatusBar() {
         panel->setHidden(index > 0 && Panels[index].Characters == 0);
         Panels_[index] = panel;
     }
+    // However long its text is, the first panel takes what the others leave.
+    PanelAt(StatusPanel::QuickHelp).setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     EnablePanel(StatusPanel::Modified, false);
 }
 
@@ -145,23 +145,6 @@ void frmDoc::ConnectEditor() {
         Parts_.Boundary.Run([&] { used = View_.txtCode_KeyPress(code); });
         return used;
     };
-}
-
-void frmDoc::LayOut() {
-    const int frame = PixelsOfTwips(FrameWidthTwips, logicalDpiX());
-    const int barHeight = stbBarraEstado->sizeHint().height();
-    const int barTop = Client_->height() - barHeight;
-    int otherPanels = 0;
-    for (std::size_t index = 1; index < PanelCount; ++index)
-        otherPanels += Panels_[index]->isVisibleTo(stbBarraEstado)
-                           ? Panels_[index]->minimumWidth() + stbBarraEstado->layout()->spacing()
-                           : 0;
-    // The window's width counts with its frame, which lies around the client area.
-    const DocumentLayout layout =
-        LayOutDocument(Client_->width() + frame, barTop, frame, otherPanels + frame);
-    txtCode->setGeometry(0, 0, layout.EditorWidth, layout.EditorHeight);
-    Panels_[0]->setMinimumWidth(qMax(0, layout.FirstPanelMinimumWidth));
-    stbBarraEstado->setGeometry(0, barTop, Client_->width(), barHeight);
 }
 
 QLabel &frmDoc::PanelAt(StatusPanel panel) {

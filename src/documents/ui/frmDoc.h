@@ -57,7 +57,6 @@ class frmDoc final : public QMdiSubWindow, public DocumentWindow {
 
     void BuildStatusBar();
     void ConnectEditor();
-    void LayOut();
     QLabel &PanelAt(StatusPanel panel);
 
     DocumentWindowParts Parts_;

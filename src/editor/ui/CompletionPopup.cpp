@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/ui/CompletionPopup.h"
 
+#include "widgets/Controls.h"
+
 #include <QAbstractListModel>
 #include <QAccessible>
 #include <QLabel>
@@ -46,14 +48,6 @@ constexpr int HelpLines = 2;
 constexpr int HelpMargin = 5;
 constexpr char16_t ZeroWidthSpace = 0x200B;
 
-/// The list has no keyboard focus, but its current word is what the keys act on.
-void ShowAsActive(QWidget &list) {
-    QPalette palette = list.palette();
-    for (const QPalette::ColorRole role : {QPalette::Highlight, QPalette::HighlightedText})
-        palette.setColor(QPalette::Inactive, role, palette.color(QPalette::Active, role));
-    list.setPalette(palette);
-}
-
 /// Lists of parameters are written without blanks; they may go on in a new line behind each comma.
 QString MayBreak(QString help) {
     return help.replace(QChar(u','), QStringLiteral(",") + QChar(ZeroWidthSpace));
@@ -85,7 +79,8 @@ void CompletionPopup::Build() {
     List_->setUniformItemSizes(true);
     List_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     List_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    ShowAsActive(*List_);
+    // It has no keyboard focus, but its current word is what the keys act on.
+    ShowSelectionAsActive(*List_);
     Help_->setObjectName(QStringLiteral("lblAyudaPalabra"));
     Help_->setTextFormat(Qt::PlainText);
     Help_->setWordWrap(true);

@@ -44,7 +44,6 @@ class ScintillaEditor final : public QsciScintillaBase, public EditorControl {
     int LineCount() const override;
     QString LineText(LineIndex line) const override;
     void VisitLines(const LineVisitor &visit) const override;
-    int LineLength(LineIndex line) const override;
     void SetLinePosition(LineIndex line) override;
     QString CurrentWord() const override;
     TokenClass CurrentTokenClass() const override;

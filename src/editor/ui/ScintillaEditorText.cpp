@@ -39,10 +39,6 @@ void ScintillaEditor::VisitLines(const LineVisitor &visit) const {
     }
 }
 
-int ScintillaEditor::LineLength(LineIndex line) const {
-    return Text_.CharactersIn(Text_.LineStart(line), Text_.LineEnd(line));
-}
-
 void ScintillaEditor::SetLinePosition(LineIndex line) { Text_.MoveCaret(Text_.LineStart(line)); }
 
 QString ScintillaEditor::CurrentWord() const {

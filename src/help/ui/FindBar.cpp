@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "help/ui/FindBar.h"
 
+#include "widgets/Controls.h"
+
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -49,9 +51,7 @@ void FindBar::Build() {
 }
 
 void FindBar::AddButton(const QString &name, const QString &caption, void (FindBar::*command)()) {
-    auto *button = new QToolButton;
-    button->setObjectName(name);
-    button->setText(caption);
+    auto *button = NewControl<QToolButton>(name, caption);
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::TabFocus);
     connect(button, &QToolButton::clicked, this, command);

@@ -7,6 +7,7 @@
 #include "help/ui/LinkFocusStyle.h"
 #include "help/ui/PageImages.h"
 #include "platform/SystemFiles.h"
+#include "widgets/Controls.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QDir>
@@ -50,10 +51,7 @@ HelpBrowser::HelpBrowser(QWidget *parent)
     FindBar_->hide();
     connect(FindBar_, &FindBar::VisibilityChanged, this, &HelpBrowser::PlaceFindBar);
     // What was found stays marked while the keyboard is in the bar.
-    QPalette colors = palette();
-    for (const QPalette::ColorRole role : {QPalette::Highlight, QPalette::HighlightedText})
-        colors.setColor(QPalette::Inactive, role, colors.color(QPalette::Active, role));
-    setPalette(colors);
+    ShowSelectionAsActive(*this);
 }
 
 /// The document outlives the device that it was laid out for.
@@ -90,7 +88,7 @@ QVariant HelpBrowser::LoadPage(const QUrl &url) const {
 }
 
 /// Pages made on Windows write "\" in their links. Only the link is repaired: the page's own folder
-/// may have a name with "\" in it on Linux.
+/// may have a name with "\" in it.
 QUrl HelpBrowser::Repaired(QUrl url) const {
     const QString folder = source().adjusted(QUrl::RemoveFilename).path();
     const QString path = url.path();

@@ -3,6 +3,7 @@
 
 #include "documents/ui/DocumentArea.h"
 #include "help/ui/HelpBrowser.h"
+#include "widgets/Controls.h"
 #include "widgets/EventBoundary.h"
 
 #include <QCloseEvent>
@@ -27,6 +28,7 @@ frmAyuda::frmAyuda(DocumentArea &area, const EventBoundary &boundary)
     htmlAyuda->setObjectName(QStringLiteral("htmlAyuda"));
     BuildStatusBar();
     ConnectBrowser();
+    PutOverStatusBar(*Client_, *htmlAyuda, *stbBarraEstado);
     setWidget(Client_);
     Client_->setFocusProxy(htmlAyuda);
     Client_->installEventFilter(this);
@@ -55,7 +57,7 @@ void frmAyuda::SetFocus() {
 
 bool frmAyuda::eventFilter(QObject *watched, QEvent *event) {
     if (watched == Client_ && (event->type() == QEvent::Resize || event->type() == QEvent::Paint))
-        LayOut();
+        Panel_->setMinimumWidth(Client_->width());
     return QMdiSubWindow::eventFilter(watched, event);
 }
 
@@ -83,15 +85,6 @@ void frmAyuda::ConnectBrowser() {
     };
     report(&QTextBrowser::backwardAvailable, BackCommand);
     report(&QTextBrowser::forwardAvailable, ForwardCommand);
-}
-
-/// Browser and panel are as wide as the window without its frame.
-void frmAyuda::LayOut() {
-    const int barHeight = stbBarraEstado->sizeHint().height();
-    const int barTop = Client_->height() - barHeight;
-    htmlAyuda->setGeometry(0, 0, Client_->width(), barTop);
-    Panel_->setMinimumWidth(Client_->width());
-    stbBarraEstado->setGeometry(0, barTop, Client_->width(), barHeight);
 }
 
 } // namespace Quillbox

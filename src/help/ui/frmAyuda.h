@@ -35,7 +35,6 @@ class frmAyuda final : public QMdiSubWindow, public HelpViewer {
   private:
     void BuildStatusBar();
     void ConnectBrowser();
-    void LayOut();
 
     DocumentArea &Area_;
     const EventBoundary &Boundary_;

@@ -2,6 +2,7 @@
 #include "media/ui/FileList.h"
 
 #include "media/MediaFiles.h"
+#include "widgets/Controls.h"
 
 #include <QFocusEvent>
 #include <QIcon>
@@ -93,15 +94,13 @@ void FileList::mouseDoubleClickEvent(QMouseEvent *event) {
         emit Opened();
 }
 
-/// The keyboard makes a file current without selecting it; the next key would act on a file that
-/// nothing shows.
 void FileList::focusInEvent(QFocusEvent *event) {
     QListView::focusInEvent(event);
     const bool byKeyboard = event->reason() == Qt::TabFocusReason ||
                             event->reason() == Qt::BacktabFocusReason ||
                             event->reason() == Qt::ShortcutFocusReason;
-    if (byKeyboard && SelectedFile().isEmpty() && currentIndex().isValid())
-        setCurrentIndex(currentIndex());
+    if (byKeyboard)
+        SelectCurrentEntry(*this);
 }
 
 void FileList::paintEvent(QPaintEvent *event) {

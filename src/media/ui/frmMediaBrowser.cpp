@@ -8,6 +8,7 @@
 #include "media/ui/PictureFile.h"
 #include "media/ui/frmMuestraImagenes.h"
 #include "surfaces/Folders.h"
+#include "widgets/Controls.h"
 #include "widgets/EventBoundary.h"
 
 #include <QEvent>
@@ -81,19 +82,9 @@ void frmMediaBrowser::BuildButtons(QVBoxLayout &layout) {
     auto *hint = new QLabel(
         QStringLiteral("Doble clic o Intro abre el archivo; Espacio muestra la imagen."));
     hint->setWordWrap(true);
-    const auto newButton = [this](const QString &name, const QString &caption,
-                                  const QString &tooltip) {
-        auto *button = new QPushButton(caption, this);
-        button->setObjectName(name);
-        button->setToolTip(tooltip);
-        button->setAutoDefault(false);
-        return button;
-    };
-    cmdInsertPath = newButton(
-        QStringLiteral("cmdInsertPath"), QStringLiteral("Insertar &Ruta"),
-        QStringLiteral("Inserta la ruta del archivo seleccionado en la posición del cursor"));
-    auto *back = newButton(QStringLiteral("cmdVolver"), QStringLiteral("&Volver"),
-                           QStringLiteral("Vuelve a la ventana principal"));
+    cmdInsertPath = NewButton("cmdInsertPath", "Insertar &Ruta",
+                              "Inserta la ruta del archivo seleccionado en la posición del cursor");
+    auto *back = NewButton("cmdVolver", "&Volver", "Vuelve a la ventana principal");
     auto *row = new QHBoxLayout;
     row->addWidget(hint, 1);
     row->addWidget(cmdInsertPath);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "project/ui/EntryList.h"
 
+#include "widgets/Controls.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QStyle>
@@ -58,12 +60,10 @@ void EntryList::mouseDoubleClickEvent(QMouseEvent *event) {
         emit Activated();
 }
 
-/// The keyboard makes an entry current without selecting it; the next key would act on an entry
-/// that nothing shows.
 void EntryList::focusInEvent(QFocusEvent *event) {
     QListWidget::focusInEvent(event);
-    if (!Selected() && currentItem() && event->reason() != Qt::MouseFocusReason)
-        currentItem()->setSelected(true);
+    if (event->reason() != Qt::MouseFocusReason)
+        SelectCurrentEntry(*this);
 }
 
 bool EntryList::IsOnCheckMark(const QPoint &place) const {

@@ -2,8 +2,8 @@
 #include "project/ui/frmNewProject.h"
 
 #include "project/NewProject.h"
+#include "widgets/Controls.h"
 #include "widgets/EventBoundary.h"
-#include "widgets/FormFields.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -36,46 +36,34 @@ frmNewProject::frmNewProject(NewProject &rules, const EventBoundary &boundary,
 }
 
 void frmNewProject::BuildFields() {
-    txtTitle = AddTextBox(*Grid_, QStringLiteral("txtTitle"), QStringLiteral("&Título:"), 2);
-    txtAuthor = AddTextBox(*Grid_, QStringLiteral("txtAuthor"), QStringLiteral("A&utor:"), 2);
-
-    txtMainSource =
-        AddTextBox(*Grid_, QStringLiteral("txtMainSource"), QStringLiteral("Programa &principal:"));
+    txtTitle = AddTextBox(*Grid_, "txtTitle", "&Título:", 2);
+    txtAuthor = AddTextBox(*Grid_, "txtAuthor", "A&utor:", 2);
+    txtMainSource = AddTextBox(*Grid_, "txtMainSource", "Programa &principal:");
     txtMainSource->setMinimumWidth(TextBoxWidth);
-    const auto *browse = AddBrowseButton(QStringLiteral("cmdBrowse"),
-                                         QStringLiteral("&Examinar..."), Grid_->rowCount() - 1);
-    connect(browse, &QPushButton::clicked, this, [this] {
-        Boundary_.Run([this] {
-            if (const auto chosen = Rules_.cmdBrowse_Click())
-                txtMainSource->setText(*chosen);
-        });
-    });
-
-    txtTarget =
-        AddTextBox(*Grid_, QStringLiteral("txtTarget"), QStringLiteral("Archivo del pro&yecto:"));
-    const auto *browseTarget = AddBrowseButton(
-        QStringLiteral("cmdBrowseTarget"), QStringLiteral("E&xaminar..."), Grid_->rowCount() - 1);
-    connect(browseTarget, &QPushButton::clicked, this, [this] {
-        Boundary_.Run([this] {
-            if (const auto chosen = Rules_.cmdBrowseTarget_Click())
-                txtTarget->setText(*chosen);
-        });
-    });
+    AddBrowseButton("cmdBrowse", "&Examinar...", *txtMainSource, &NewProject::cmdBrowse_Click);
+    txtTarget = AddTextBox(*Grid_, "txtTarget", "Archivo del pro&yecto:");
+    AddBrowseButton("cmdBrowseTarget", "E&xaminar...", *txtTarget,
+                    &NewProject::cmdBrowseTarget_Click);
 }
 
-QPushButton *frmNewProject::AddBrowseButton(const QString &name, const QString &caption, int row) {
-    QPushButton *button = NewButton(name, caption, this);
-    Grid_->addWidget(button, row, BrowseColumn);
-    return button;
+void frmNewProject::AddBrowseButton(const QString &name, const QString &caption, QLineEdit &box,
+                                    std::optional<QString> (NewProject::*choose)()) {
+    QPushButton *button = NewButton(name, caption);
+    Grid_->addWidget(button, Grid_->rowCount() - 1, BrowseColumn);
+    connect(button, &QPushButton::clicked, this, [this, &box, choose] {
+        Boundary_.Run([&] {
+            if (const auto chosen = (Rules_.*choose)())
+                box.setText(*chosen);
+        });
+    });
 }
 
 void frmNewProject::BuildButtons() {
-    auto *scaffolder =
-        NewButton(QStringLiteral("cmdScaffolder"), QStringLiteral("&Generador de código..."), this);
+    auto *scaffolder = NewButton("cmdScaffolder", "&Generador de código...");
     connect(scaffolder, &QPushButton::clicked, this, [this] { Boundary_.Run(StartScaffolder_); });
-    auto *accept = NewButton(QStringLiteral("cmdAceptar"), QStringLiteral("&Aceptar"), this);
+    auto *accept = NewButton("cmdAceptar", "&Aceptar");
     accept->setDefault(true);
-    auto *cancel = NewButton(QStringLiteral("cmdCancelar"), QStringLiteral("&Cancelar"), this);
+    auto *cancel = NewButton("cmdCancelar", "&Cancelar");
     connect(accept, &QPushButton::clicked, this, &frmNewProject::OnAccept);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
 

@@ -4,10 +4,10 @@
 #include <QDialog>
 
 #include <functional>
+#include <optional>
 
 class QGridLayout;
 class QLineEdit;
-class QPushButton;
 
 namespace Quillbox {
 
@@ -25,7 +25,9 @@ class frmNewProject final : public QDialog {
   private:
     void BuildFields();
     void BuildButtons();
-    QPushButton *AddBrowseButton(const QString &name, const QString &caption, int row);
+    /// Beside the last text box, which takes what `choose` yields.
+    void AddBrowseButton(const QString &name, const QString &caption, QLineEdit &box,
+                         std::optional<QString> (NewProject::*choose)());
     void OnAccept();
 
     NewProject &Rules_;

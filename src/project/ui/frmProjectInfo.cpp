@@ -3,8 +3,8 @@
 
 #include "project/ProjectInfo.h"
 #include "project/ui/EntryList.h"
+#include "widgets/Controls.h"
 #include "widgets/EventBoundary.h"
-#include "widgets/FormFields.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -61,9 +61,9 @@ void frmProjectInfo::BuildList(QVBoxLayout &layout) {
     lstFiles->setTextElideMode(Qt::ElideMiddle);
     caption->setBuddy(lstFiles);
     auto *hint = new QLabel(QStringLiteral("Doble clic o Intro abre el archivo."), this);
-    auto *add = NewButton(QStringLiteral("cmdAñadir"), QStringLiteral("Aña&dir..."), this);
-    auto *remove = NewButton(QStringLiteral("cmdBorrar"), QStringLiteral("&Borrar"), this);
-    auto *closing = NewButton(QStringLiteral("cmdCerrar"), QStringLiteral("&Cerrar"), this);
+    auto *add = NewButton("cmdAñadir", "Aña&dir...");
+    auto *remove = NewButton("cmdBorrar", "&Borrar");
+    auto *closing = NewButton("cmdCerrar", "&Cerrar");
     closing->setDefault(true);
 
     auto *buttons = new QVBoxLayout;

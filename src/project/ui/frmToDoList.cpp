@@ -3,8 +3,8 @@
 
 #include "project/ToDoList.h"
 #include "project/ui/EntryList.h"
+#include "widgets/Controls.h"
 #include "widgets/EventBoundary.h"
-#include "widgets/FormFields.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -49,9 +49,9 @@ void frmToDoList::BuildList(QVBoxLayout &layout) {
 }
 
 void frmToDoList::BuildButtons(QVBoxLayout &layout) {
-    auto *add = NewButton(QStringLiteral("cmdAñadir"), QStringLiteral("&Añadir..."), this);
-    auto *remove = NewButton(QStringLiteral("cmdBorrar"), QStringLiteral("&Borrar"), this);
-    auto *closing = NewButton(QStringLiteral("cmdCerrar"), QStringLiteral("&Cerrar"), this);
+    auto *add = NewButton("cmdAñadir", "&Añadir...");
+    auto *remove = NewButton("cmdBorrar", "&Borrar");
+    auto *closing = NewButton("cmdCerrar", "&Cerrar");
     add->setDefault(true);
     auto *row = new QHBoxLayout;
     row->addWidget(add);

@@ -3,6 +3,7 @@
 
 #include "search/ui/HistoryBox.h"
 #include "widgets/AnsiLineEdit.h"
+#include "widgets/Controls.h"
 
 #include <QCheckBox>
 #include <QDialog>
@@ -51,9 +52,7 @@ class Builder {
 
     /// A click leaves the keyboard where it is, so that the next term can be typed at once.
     QPushButton *AddButton(const char *name, const char *caption) {
-        auto *button = new QPushButton(QString::fromUtf8(caption), &Dialog_);
-        button->setObjectName(QLatin1String(name));
-        button->setAutoDefault(false);
+        auto *button = NewButton(QLatin1String(name), QString::fromUtf8(caption));
         button->setFocusPolicy(Qt::TabFocus);
         Buttons_.addWidget(button);
         return button;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/ui/ChoiceList.h"
 
+#include "widgets/Controls.h"
+
 #include <QFocusEvent>
 
 namespace Quillbox {
@@ -37,11 +39,9 @@ QItemSelectionModel::SelectionFlags ChoiceList::selectionCommand(const QModelInd
     return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
 }
 
-/// The keyboard makes an entry current without selecting it when none was.
 void ChoiceList::focusInEvent(QFocusEvent *event) {
     QListWidget::focusInEvent(event);
-    if (currentItem())
-        currentItem()->setSelected(true);
+    SelectCurrentEntry(*this);
 }
 
 } // namespace Quillbox

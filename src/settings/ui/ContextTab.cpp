@@ -2,7 +2,7 @@
 #include "settings/ui/ContextTab.h"
 
 #include "base/CreditLine.h"
-#include "widgets/NamedControls.h"
+#include "widgets/Controls.h"
 
 #include <QCheckBox>
 #include <QGroupBox>

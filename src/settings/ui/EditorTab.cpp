@@ -5,8 +5,8 @@
 #include "settings/ui/ChoiceList.h"
 #include "settings/ui/TabSizeBox.h"
 #include "surfaces/Dialogs.h"
+#include "widgets/Controls.h"
 #include "widgets/InstalledFamily.h"
-#include "widgets/NamedControls.h"
 
 #include <QCheckBox>
 #include <QFrame>
@@ -42,12 +42,6 @@ QStringList Styles() {
     for (const char *caption : StyleCaptions())
         captions.append(QString::fromUtf8(caption));
     return captions;
-}
-
-QPushButton *NewButton(const char *name, const char *caption, const char *toolTip) {
-    auto *button = NewControl<QPushButton>(name, caption, toolTip);
-    button->setAutoDefault(false);
-    return button;
 }
 
 /// A label in a sunken frame on the colour of text boxes.

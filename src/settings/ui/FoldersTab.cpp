@@ -2,7 +2,7 @@
 #include "settings/ui/FoldersTab.h"
 
 #include "widgets/AnsiLineEdit.h"
-#include "widgets/NamedControls.h"
+#include "widgets/Controls.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -41,9 +41,7 @@ QLineEdit *NewPathBox(const PathGroup &group) {
 }
 
 QPushButton *NewBrowseButton(const PathGroup &group) {
-    auto *button = NewControl<QPushButton>(group.Button, "Examinar", "Buscar el archivo...");
-    button->setAutoDefault(false);
-    return button;
+    return NewButton(group.Button, "Examinar", "Buscar el archivo...");
 }
 
 QGroupBox *Arranged(const PathGroup &group, QLineEdit *box, QPushButton *button) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/ui/TabSizeBox.h"
 
-#include "widgets/NamedControls.h"
+#include "widgets/Controls.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>

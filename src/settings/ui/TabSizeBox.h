@@ -12,6 +12,7 @@ namespace Quillbox {
 
 /// The spinner spnTabSize with the text box txtTabSize in it. They look like one control but know
 /// nothing of one another's value: the rules couple them. The text box has the keyboard for both.
+/// The spinner's own text box would turn what is typed into its number, and take Backspace.
 class TabSizeBox final : public QSpinBox {
     Q_OBJECT
   public:

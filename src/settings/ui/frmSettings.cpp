@@ -6,8 +6,8 @@
 #include "settings/ui/EditorTab.h"
 #include "settings/ui/FoldersTab.h"
 #include "settings/ui/TabSizeBox.h"
+#include "widgets/Controls.h"
 #include "widgets/EventBoundary.h"
-#include "widgets/NamedControls.h"
 
 #include <QCheckBox>
 #include <QFrame>
@@ -87,8 +87,7 @@ QLayout *frmSettings::ButtonRow() {
 
 QPushButton *frmSettings::AddButton(QLayout &row, const char *name, const char *caption,
                                     const char *toolTip, void (SettingsDialog::*click)()) {
-    auto *button = NewControl<QPushButton>(name, caption, toolTip);
-    button->setAutoDefault(false);
+    auto *button = NewButton(name, caption, toolTip);
     row.addWidget(button);
     Forward(button, &QPushButton::clicked, click);
     return button;

@@ -3,6 +3,7 @@
 #include "fakes/UiProgram.h"
 
 #include <QLabel>
+#include <QMdiSubWindow>
 #include <QMenu>
 
 namespace Quillbox {
@@ -87,6 +88,35 @@ TEST_F(DocumentWindowTest, ReachesDownToTheStatusBarOverTheWholeWidth) {
     EXPECT_EQ(editor->geometry().bottom() + 1, bar->geometry().top());
     EXPECT_EQ(editor->width(), WindowOf(1)->widget()->width());
     EXPECT_EQ(bar->geometry().bottom() + 1, WindowOf(1)->widget()->height());
+}
+
+// Panels 4 and 5 keep their widths, 6 to 8 are not shown.
+TEST_F(DocumentWindowTest, GivesTheFirstPanelWhatTheOthersLeave) {
+    OpenText("uno\r\n");
+    const int barWidth = Panel(1)->parentWidget()->width();
+    const int first = Panel(1)->width();
+    int left = Panel(1)->x();
+    for (int number = 2; number <= 5; ++number) {
+        EXPECT_GT(Panel(number)->x(), left) << number;
+        EXPECT_EQ(Panel(number)->width(), Panel(number)->minimumWidth()) << number;
+        left = Panel(number)->x();
+    }
+    EXPECT_LE(barWidth - Panel(5)->geometry().right(), Panel(1)->x() + 3);
+    WindowOf(1)->SetPanelText(StatusPanel::QuickHelp, QString(1000, u'x'));
+    Settle();
+    EXPECT_EQ(Panel(1)->width(), first);
+    Main().resize(Main().width() - 100, Main().height());
+    Settle();
+    EXPECT_EQ(Panel(1)->width(), first - 100);
+}
+
+TEST_F(DocumentWindowTest, BecomesNarrowerThanItsPanels) {
+    OpenText("uno\r\n");
+    auto *window = Find<QMdiSubWindow>("frmDoc");
+    window->showNormal();
+    window->resize(200, 150);
+    Settle();
+    EXPECT_EQ(window->width(), 200);
 }
 
 TEST_F(DocumentWindowTest, RescansWhenEnterAddsALine) {

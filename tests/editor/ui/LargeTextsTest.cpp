@@ -32,7 +32,7 @@ TEST_F(LargeTexts, MayHaveOneVeryLongLine) {
     Load(line);
     Editor->show();
     Editor->grab();
-    const int length = Editor->LineLength({0});
+    const auto length = static_cast<int>(Editor->LineText({0}).size());
     EXPECT_EQ(length, line.size());
     Editor->SetCaretPos(At(0, length - 14));
     EXPECT_EQ(Editor->CurrentWord(), "if");

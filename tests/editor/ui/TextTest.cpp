@@ -8,7 +8,6 @@ using EditorText = EditorTest;
 TEST_F(EditorText, OfANewEditorIsOneEmptyLine) {
     EXPECT_EQ(Editor->LineCount(), 1);
     EXPECT_EQ(Editor->LineText({0}), "");
-    EXPECT_EQ(Editor->LineLength({0}), 0);
     EXPECT_EQ(Editor->Text(), "");
     EXPECT_FALSE(Editor->IsModified());
 }
@@ -25,14 +24,16 @@ TEST_F(EditorText, HasLinesWithoutTheirEnds) {
 TEST_F(EditorText, CountsCharactersAndNotBytes) {
     Load("a\xF1o\x80\n");
     EXPECT_EQ(Editor->LineText({0}), "año€");
-    EXPECT_EQ(Editor->LineLength({0}), 4);
+    Editor->SetCaretPos(At(0, 4));
+    EXPECT_EQ(Caret(), At(0, 4));
+    Editor->SetCaretPos(At(0, 5));
+    EXPECT_EQ(Caret(), At(0, 4)) << "behind the last character";
 }
 
 TEST_F(EditorText, TakesLinesOutsideAsTheNearestInside) {
     Load("uno\ndos");
     EXPECT_EQ(Editor->LineText({-1}), "uno");
     EXPECT_EQ(Editor->LineText({7}), "dos");
-    EXPECT_EQ(Editor->LineLength({7}), 3);
     Editor->SetLinePosition({9});
     EXPECT_EQ(Caret(), At(1, 0));
 }
@@ -193,7 +194,7 @@ TEST_F(EditorText, EndsTheVisitsWhenToldTo) {
 
 TEST_F(EditorText, KeepsNulCharacters) {
     Editor->ReplaceSel(QString("a") + QChar(0) + "b");
-    EXPECT_EQ(Editor->LineLength({0}), 3);
+    EXPECT_EQ(Editor->LineText({0}).size(), 3);
     Editor->InsertText(QString(QChar(0)), At(0, 0));
     EXPECT_EQ(Editor->Text().size(), 4);
 }
