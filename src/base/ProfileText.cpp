@@ -142,7 +142,7 @@ QByteArray LineEndOf(const QByteArray &content) {
 }
 
 /// Inserts whole lines, after a line end where the text before has none.
-QByteArray WithLinesAt(QByteArray content, qsizetype place, QByteArray lines,
+QByteArray WithLinesAt(QByteArray content, qsizetype place, const QByteArray &lines,
                        const QByteArray &lineEnd) {
     const bool needsLineEnd = place > 0 && !IsLineEnd(content[place - 1]);
     return content.insert(place, needsLineEnd ? lineEnd + lines : lines);

@@ -8,7 +8,7 @@ namespace {
 constexpr std::size_t LargestGap = 256;
 
 /// So that the text of an edit is small against the text as a whole.
-constexpr std::size_t LargestEdit = 1024 * 1024;
+constexpr std::size_t LargestEdit = std::size_t{1024} * 1024;
 
 } // namespace
 

@@ -12,10 +12,10 @@ using Sci = QsciScintillaBase;
 /// Bytes that are coloured at a time; a piece ends at a line end all the same. Pieces grow, so that
 /// an edit whose effect ends soon costs little and a long text is coloured at full speed.
 constexpr BytePosition FirstPieceSize = 512;
-constexpr BytePosition LargestPieceSize = 64 * 1024;
+constexpr BytePosition LargestPieceSize = BytePosition{64} * 1024;
 
 /// Room for the styles of one very long line is given back.
-constexpr std::size_t MostKeptStyles = 1024 * 1024;
+constexpr std::size_t MostKeptStyles = std::size_t{1024} * 1024;
 
 } // namespace
 

@@ -20,7 +20,7 @@ namespace Quillbox {
 namespace {
 
 /// A line longer than this many bytes is slow to measure.
-constexpr BytePosition LongLine = 32 * 1024;
+constexpr BytePosition LongLine = BytePosition{32} * 1024;
 
 /// Pieces of text whose widths are kept once a long line shows. Measuring is what makes such a line
 /// slow; with its pieces known, a letter typed into it costs a look-up for each of the others.

@@ -19,7 +19,7 @@ namespace {
 
 using Sci = QsciScintillaBase;
 
-constexpr BytePosition SavedPiece = 1024 * 1024;
+constexpr BytePosition SavedPiece = BytePosition{1024} * 1024;
 
 /// What a view shows and what it would forget with the next text.
 struct ShownText {

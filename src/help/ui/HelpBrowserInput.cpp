@@ -71,7 +71,8 @@ void HelpBrowser::mouseReleaseEvent(QMouseEvent *event) {
 void HelpBrowser::contextMenuEvent(QContextMenuEvent *event) {
     QMenu menu(this);
     menu.setObjectName(QStringLiteral("mnuPagina"));
-    const auto add = [&](const QString &caption, QKeySequence key, bool enabled, auto command) {
+    const auto add = [&](const QString &caption, const QKeySequence &key, bool enabled,
+                         auto command) {
         QAction *action = menu.addAction(caption, this, command);
         action->setShortcut(key);
         action->setEnabled(enabled);

@@ -18,10 +18,10 @@ constexpr std::chrono::milliseconds LongestCount(1500);
 /// A costly expression is given up within a piece, so that it cannot hold up typing.
 constexpr std::chrono::milliseconds LongestPiece(100);
 constexpr std::chrono::milliseconds Pause(150);
-constexpr BytePosition PieceSize = 128 * 1024;
+constexpr BytePosition PieceSize = BytePosition{128} * 1024;
 
 /// Up to this many matches are told apart by their numbers.
-constexpr std::size_t MostNumbered = 100 * 1000;
+constexpr std::size_t MostNumbered = std::size_t{100} * 1000;
 
 QString Shown(std::size_t number) {
     return QLocale(QLocale::Spanish, QLocale::Spain).toString(static_cast<qulonglong>(number));

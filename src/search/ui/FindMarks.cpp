@@ -15,7 +15,7 @@ using Sci = QsciScintillaBase;
 constexpr int LinesAround = 20;
 
 /// So that very long lines do not hold up typing.
-constexpr BytePosition MostBytes = 256 * 1024;
+constexpr BytePosition MostBytes = BytePosition{256} * 1024;
 constexpr std::chrono::milliseconds LongestLook(60);
 
 /// Amber is seen on light and on dark paper; it lies beneath the text, which keeps its colour.

@@ -12,7 +12,7 @@ using Sci = QsciScintillaBase;
 /// What an expression is given, and more for each megabyte: no sensible one comes near.
 constexpr std::chrono::milliseconds ShortSearch(4000);
 constexpr std::chrono::milliseconds ForEachMegabyte(50);
-constexpr BytePosition Megabyte = 1000 * 1000;
+constexpr BytePosition Megabyte = BytePosition{1000} * 1000;
 
 /// Looks for one request in one text.
 class Finder {
