@@ -45,8 +45,8 @@ int Run() {
     SystemPrograms programs;
     QtDialogs dialogs;
     QtEventLoop events;
-    SystemFolders disks;
-    const Outside outside{appDir, files, profile, console, programs, dialogs, events, disks};
+    SystemFolders folders;
+    const Outside outside{appDir, files, profile, console, programs, dialogs, events, folders};
 
     std::optional<Program> program;
     frmLogo splash([&] { StartOrQuit(program, outside); }, events);

@@ -1,18 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QString>
-
 namespace Quillbox {
 
-class Dialogs;
-class Files;
+class CompanionPrograms;
 class Programs;
 
-/// The programs beside Quillbox. They are started and not waited for.
+/// The programs that the menus start. They are not waited for.
 class ExternalTools {
   public:
-    ExternalTools(const QString &appDir, Programs &launcher, Files &files, Dialogs &dialogs);
+    ExternalTools(CompanionPrograms &companions, Programs &programs);
 
     /// Minimised; a system without a calculator is a run-time error.
     void mnuHerramientas_Calculadora_Click();
@@ -22,10 +19,8 @@ class ExternalTools {
     void mnuAyuda_Inkwell_Click();
 
   private:
-    QString AppDir_;
-    Programs &Launcher_;
-    Files &Files_;
-    Dialogs &Dialogs_;
+    CompanionPrograms &Companions_;
+    Programs &Programs_;
 };
 
 } // namespace Quillbox

@@ -1,36 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QString>
-
 namespace Quillbox {
 
 class Compiler;
-class CompilerLog;
 class Dialogs;
 class DocumentCommands;
-class MainWindow;
-class Programs;
-struct Document;
+class LanguageTools;
 struct DocumentRegistry;
-struct Settings;
-
-/// What the build commands work with.
-struct BuildParts {
-    DocumentRegistry &Registry;
-    DocumentCommands &Documents;
-    const Settings &Options;
-    Quillbox::Compiler &Compiler;
-    CompilerLog &Log;
-    Programs &Launcher;
-    Dialogs &Questions;
-};
 
 /// The Program menu. All commands work on the active document; with none run-time error 9 ends
 /// them.
 class BuildCommands {
   public:
-    explicit BuildCommands(const BuildParts &parts);
+    BuildCommands(DocumentRegistry &registry, DocumentCommands &documents, Dialogs &dialogs,
+                  Compiler &compiler, LanguageTools &tools);
 
     /// Saves the active document, not the others, and compiles it.
     void mnuPrograma_ComprobarErrores_Click();
@@ -40,14 +24,13 @@ class BuildCommands {
     void mnuPrograma_CrearEXE_Click();
 
   private:
-    void SetCompilerPath();
     void SaveActiveDocument();
-    QString CompileLine();
 
-    BuildParts Parts_;
+    DocumentRegistry &Registry_;
+    DocumentCommands &Documents_;
+    Dialogs &Dialogs_;
+    Compiler &Compiler_;
+    LanguageTools &LanguageTools_;
 };
-
-/// Debug mode is carried as a check mark; no command line depends on it.
-void mnuPrograma_ModoDebug_Click(bool &debugMode, MainWindow &mainWindow);
 
 } // namespace Quillbox

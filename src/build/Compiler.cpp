@@ -14,27 +14,29 @@ constexpr int FinalLineEnd = 2;
 
 } // namespace
 
-Compiler::Compiler(ConsoleProcess &console, EventLoop &eventLoop, MainWindow &mainWindow,
+Compiler::Compiler(ConsoleProcess &console, EventLoop &events, MainWindow &mainWindow,
                    CompilerLog &log)
     : Console_(console)
-    , EventLoop_(eventLoop)
+    , Events_(events)
     , MainWindow_(mainWindow)
-    , Log_(log) {}
+    , CompilerLog_(log) {}
 
 void Compiler::Compile(const QString &commandLine) {
     const QString output = Run(commandLine);
     MainWindow_.SetLog(WithoutLast(output, FinalLineEnd));
-    Log_.ShowCompilerErrors(output);
+    CompilerLog_.ShowCompilerErrors(output);
 }
 
 void Compiler::Compile(const QString &commandLine, ResumeNext &guard) {
     const QString output = Run(commandLine);
     guard.Try([&] { MainWindow_.SetLog(WithoutLast(output, FinalLineEnd)); });
-    guard.Try([&] { Log_.ShowCompilerErrors(output); });
+    guard.Try([&] { CompilerLog_.ShowCompilerErrors(output); });
 }
 
 QString Compiler::Run(const QString &commandLine) {
-    return ExecCmd(commandLine, Console_, EventLoop_);
+    return ExecCmd(commandLine, Console_, Events_);
 }
+
+bool Compiler::TakeErrorFound() { return std::exchange(CompilerLog_.CompileErrorFound, false); }
 
 } // namespace Quillbox

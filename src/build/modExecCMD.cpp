@@ -18,8 +18,8 @@ QString Failure(const char *call, const ConsoleProcess &console) {
 
 } // namespace
 
-QString ExecCmd(const QString &commandLine, ConsoleProcess &console, EventLoop &eventLoop) {
-    const auto pump = [&] { eventLoop.ProcessPendingEvents(); };
+QString ExecCmd(const QString &commandLine, ConsoleProcess &console, EventLoop &events) {
+    const auto pump = [&] { events.ProcessPendingEvents(); };
 
     pump();
     const auto pipe = console.CreatePipe(PipeSize);

@@ -15,6 +15,6 @@ class EventLoop;
 ///
 /// This side keeps the pipe's write end open while it waits and reads once after the end. So a
 /// program that writes nothing, or more than the pipe holds, keeps the call from ever returning.
-QString ExecCmd(const QString &commandLine, ConsoleProcess &console, EventLoop &eventLoop);
+QString ExecCmd(const QString &commandLine, ConsoleProcess &console, EventLoop &events);
 
 } // namespace Quillbox

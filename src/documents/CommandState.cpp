@@ -5,42 +5,32 @@
 #include "surfaces/MainWindow.h"
 
 namespace Quillbox {
-namespace {
 
-const QString WindowMenu = QStringLiteral("mnuVentana");
-
-const QString DocumentCommandNames[] = {
-    QStringLiteral("mnuEdicion"),
-    QStringLiteral("mnuPrograma"),
-    QStringLiteral("mnuArchivo_Guardar"),
-    QStringLiteral("mnuArchivo_GuardarComo"),
-    QStringLiteral("mnuArchivo_Imprimir"),
-    QStringLiteral("mnuArchivo_Cerrar"),
-    WindowMenu,
-};
-
-const QString DocumentToolButtons[] = {
-    QStringLiteral("Guardar"),  QStringLiteral("Imprimir"), QStringLiteral("Cerrar"),
-    QStringLiteral("Buscar"),   QStringLiteral("Deshacer"), QStringLiteral("Rehacer"),
-    QStringLiteral("Cortar"),   QStringLiteral("Copiar"),   QStringLiteral("Pegar"),
-    QStringLiteral("Ejecutar"),
-};
-
-} // namespace
-
-CommandState::CommandState(MainWindow &mainWindow, EventLoop &eventLoop)
+CommandState::CommandState(MainWindow &mainWindow, EventLoop &events,
+                           const SwitchedCommands &commands)
     : MainWindow_(mainWindow)
-    , EventLoop_(eventLoop) {}
+    , Events_(events)
+    , Commands_(commands) {}
 
 void CommandState::UpdateCommandState(bool enabled) {
-    for (const QString &name : DocumentCommandNames)
-        MainWindow_.EnableCommand(name, enabled);
-    for (const QString &tooltip : DocumentToolButtons)
+    EnableCommands(Commands_.WithDocument, enabled);
+    for (const QString &tooltip : Commands_.ButtonsWithDocument)
         MainWindow_.EnableToolButtons(tooltip, enabled);
     // Only windows: a document that is being made is counted already but has no window yet.
-    EventLoop_.ProcessWindowEvents();
+    Events_.ProcessWindowEvents();
 }
 
-void CommandState::EnableWindowMenu() { MainWindow_.EnableCommand(WindowMenu, true); }
+void CommandState::EnableWindowMenu() {
+    MainWindow_.EnableCommand(QStringLiteral("mnuVentana"), true);
+}
+
+void CommandState::EnableProjectMenus(bool enabled) {
+    EnableCommands(Commands_.WithProject, enabled);
+}
+
+void CommandState::EnableCommands(const QStringList &names, bool enabled) {
+    for (const QString &name : names)
+        MainWindow_.EnableCommand(name, enabled);
+}
 
 } // namespace Quillbox

@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <span>
-
 namespace Quillbox {
 
 class EditorControl;
 
-/// What an item of the Edit menu does to the current document's editor.
-struct EditCommand {
-    const char *Name; ///< the menu item, UTF-8
-    void (*Run)(EditorControl &editor);
-};
+/// Items of the Edit menu. Each does nothing when the editor says that it cannot.
+void Undo(EditorControl &editor);
+void Redo(EditorControl &editor);
+void Cut(EditorControl &editor);
+void Copy(EditorControl &editor);
+void Paste(EditorControl &editor);
 
-std::span<const EditCommand> EditCommands();
+/// Deletes the selection, if there is one.
+void Delete(EditorControl &editor);
 
 } // namespace Quillbox

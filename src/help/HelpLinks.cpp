@@ -38,11 +38,11 @@ bool BeginsWithDrive(const QString &path) {
 } // namespace
 
 HelpLinks::HelpLinks(DocumentRegistry &registry, DocumentCommands &documents,
-                     SymbolScanner &scanner, Programs &launcher)
+                     SymbolScanner &scanner, Programs &programs)
     : Registry_(registry)
     , Documents_(documents)
     , Scanner_(scanner)
-    , Launcher_(launcher) {}
+    , Programs_(programs) {}
 
 NavigationAnswer HelpLinks::htmlAyuda_BeforeNavigate(const QString &url) {
     if (url.endsWith(SourceLanguage.ExampleSuffix)) {
@@ -51,7 +51,7 @@ NavigationAnswer HelpLinks::htmlAyuda_BeforeNavigate(const QString &url) {
     }
     const QUrl address(url);
     if (GoesOutside(address.scheme())) {
-        Launcher_.OpenAddress(url);
+        Programs_.OpenAddress(url);
         return NavigationAnswer::Cancel;
     }
     return address.isLocalFile() ? NavigationAnswer::Proceed : NavigationAnswer::Cancel;

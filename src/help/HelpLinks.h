@@ -15,7 +15,7 @@ enum class NavigationAnswer;
 class HelpLinks {
   public:
     HelpLinks(DocumentRegistry &registry, DocumentCommands &documents, SymbolScanner &scanner,
-              Programs &launcher);
+              Programs &programs);
 
     /// Sources, addresses that end in exactly ".bb", are opened as documents. Web and mail
     /// addresses go to the person's own programs. Files are shown by the viewer, nothing else is.
@@ -28,7 +28,7 @@ class HelpLinks {
     DocumentRegistry &Registry_;
     DocumentCommands &Documents_;
     SymbolScanner &Scanner_;
-    Programs &Launcher_;
+    Programs &Programs_;
 };
 
 /// The path of a file address, percent-decoded once as UTF-8, with this system's separators. Any

@@ -48,13 +48,12 @@ bool HoldsLine(const SymbolTexts &names, const SymbolTexts &lines, int line) {
 } // namespace
 
 SymbolScanner::SymbolScanner(DocumentRegistry &registry, const Settings &settings,
-                             NavigationLists &lists, RegisteredLanguage language,
-                             EventLoop &eventLoop)
+                             NavigationLists &lists, RegisteredLanguage language, EventLoop &events)
     : Registry_(registry)
     , Settings_(settings)
     , Lists_(lists)
     , Language_(language)
-    , EventLoop_(eventLoop) {}
+    , Events_(events) {}
 
 void SymbolScanner::ScanSymbols() {
     if (Registry_.CurrentIndex == 0)
@@ -68,6 +67,14 @@ void SymbolScanner::ScanSymbols() {
     Language_.Registration.RegisterLanguage(SourceLanguage.Name, Language_.Definition);
     if (Registry_.CurrentIndex > 0)
         Registry_.Current().Scanning = false;
+}
+
+void SymbolScanner::RefreshSymbols() {
+    if (Settings_.ShowFunctions)
+        return ScanSymbols();
+    Language_.Definition.UserWords.clear();
+    Language_.Registration.RegisterLanguage(SourceLanguage.Name, Language_.Definition);
+    ClearNavigationLists(Lists_);
 }
 
 void SymbolScanner::ScanUnlessPending() {
@@ -142,7 +149,7 @@ void SymbolScanner::RecordType(const QString &text, int line, int &count) {
 }
 
 bool SymbolScanner::YieldedWithDocument() {
-    EventLoop_.GiveWay();
+    Events_.GiveWay();
     return Registry_.CurrentIndex != 0;
 }
 

@@ -28,12 +28,15 @@ struct RegisteredLanguage {
 class SymbolScanner {
   public:
     SymbolScanner(DocumentRegistry &registry, const Settings &settings, NavigationLists &lists,
-                  RegisteredLanguage language, EventLoop &eventLoop);
+                  RegisteredLanguage language, EventLoop &events);
 
     /// Rescans the current document. Entries of a longer earlier scan stay in the tables behind the
     /// new ones. With no document or with all three lists switched off nothing happens, and the
     /// document's Scanning flag stays as it is.
     void ScanSymbols();
+    /// After a change of the settings: rescans, or empties the lists and the user words when the
+    /// functions are no longer collected.
+    void RefreshSymbols();
     /// Sets the current document's Scanning flag and scans, unless a scan is pending already.
     void ScanUnlessPending();
     /// Scans when the selection starts on a line that the tables hold as a declaration.
@@ -50,7 +53,7 @@ class SymbolScanner {
     const Settings &Settings_;
     NavigationLists &Lists_;
     RegisteredLanguage Language_;
-    EventLoop &EventLoop_;
+    EventLoop &Events_;
 };
 
 } // namespace Quillbox

@@ -32,9 +32,9 @@ QSize ShownSize(QSize picture, QSize room) {
     return picture.scaled(room, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
 }
 
-ImagePreview::ImagePreview(ImagePreviewWindow &window, MainWindow &main)
+ImagePreview::ImagePreview(ImagePreviewWindow &window, MainWindow &mainWindow)
     : Window_(window)
-    , Main_(main) {}
+    , MainWindow_(mainWindow) {}
 
 void ImagePreview::Form_Load() {
     Window_.ShowStatusBar(true);
@@ -49,7 +49,7 @@ void ImagePreview::Form_Paint() {
 void ImagePreview::Form_GotFocus() { Form_Paint(); }
 
 void ImagePreview::LostFocus() {
-    Main_.Activate();
+    MainWindow_.Activate();
     Window_.Unload();
 }
 

@@ -16,7 +16,7 @@ QSize ShownSize(QSize picture, QSize room);
 class ImagePreview {
   public:
     /// `window` is used from the first call on, not before.
-    ImagePreview(ImagePreviewWindow &window, MainWindow &main);
+    ImagePreview(ImagePreviewWindow &window, MainWindow &mainWindow);
 
     void Form_Load();
     /// The window fits its picture and hides its status bar.
@@ -27,7 +27,7 @@ class ImagePreview {
 
   private:
     ImagePreviewWindow &Window_;
-    MainWindow &Main_;
+    MainWindow &MainWindow_;
 };
 
 } // namespace Quillbox

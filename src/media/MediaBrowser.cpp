@@ -6,12 +6,11 @@
 #include "media/FolderPaths.h"
 #include "media/MediaBrowserWindow.h"
 #include "state/DocumentRegistry.h"
+#include "surfaces/CompanionPrograms.h"
 #include "surfaces/Dialogs.h"
 #include "surfaces/DocumentWindow.h"
 #include "surfaces/EditorControl.h"
-#include "surfaces/EventLoop.h"
-#include "surfaces/FileExists.h"
-#include "surfaces/MainWindow.h"
+#include "surfaces/MainWindowActivation.h"
 #include "surfaces/Programs.h"
 
 namespace Quillbox {
@@ -34,12 +33,16 @@ QString ReasonOf(PictureProblem problem) {
 
 } // namespace
 
-MediaBrowser::MediaBrowser(const MediaBrowserParts &parts, MediaBrowserWindow &window)
-    : Parts_(parts)
-    , Window_(window) {}
+MediaBrowser::MediaBrowser(MediaBrowserWindow &window, DocumentRegistry &registry, Dialogs &dialogs,
+                           CompanionPrograms &companions, MainWindowActivation &activation)
+    : Window_(window)
+    , Registry_(registry)
+    , Dialogs_(dialogs)
+    , Companions_(companions)
+    , Activation_(activation) {}
 
 void MediaBrowser::UpdateInsertPathButton() {
-    Window_.EnableInsertPath(Parts_.Registry.CurrentIndex != 0);
+    Window_.EnableInsertPath(Registry_.CurrentIndex != 0);
 }
 
 void MediaBrowser::drvUnidad_GotFocus() { PreviousDrive_ = Window_.SelectedDrive(); }
@@ -53,9 +56,8 @@ void MediaBrowser::drvUnidad_Change() {
     } catch (const RuntimeError &error) {
         if (error.Number != DeviceUnavailable().Number)
             return;
-        Parts_.Questions.ShowMessage({QStringLiteral("El dispositivo no está disponible."),
-                                      QStringLiteral("Error"), MessageIcon::Critical,
-                                      MessageButtons::Ok});
+        Dialogs_.ShowMessage({QStringLiteral("El dispositivo no está disponible."),
+                              QStringLiteral("Error"), MessageIcon::Critical, MessageButtons::Ok});
         PreviousDrive_ = previous;
         Window_.SelectDrive(PreviousDrive_);
     }
@@ -65,13 +67,9 @@ void MediaBrowser::dirCarpetas_Change() { Window_.SetFilePath(Window_.FolderPath
 
 /// The file's path is not quoted: that is what the viewer has always been given.
 void MediaBrowser::filArchivos_DblClick() {
-    const QString viewer = Parts_.AppDir + QStringLiteral("MediaView") + PathSeparator +
-                           QStringLiteral("mediaview.exe");
-    if (!FileExists(viewer, Parts_.Stored, Parts_.Questions))
-        return;
-    Parts_.Launcher.Start(viewer + u' ' + Window_.FilePath() + PathSeparator +
-                              Window_.SelectedFile(),
-                          WindowStyle::Minimized);
+    Companions_.Start(QStringLiteral("MediaView"), QStringLiteral("mediaview.exe"),
+                      WindowStyle::Minimized,
+                      Window_.FilePath() + PathSeparator + Window_.SelectedFile());
 }
 
 void MediaBrowser::filArchivos_SpaceBar() {
@@ -80,14 +78,14 @@ void MediaBrowser::filArchivos_SpaceBar() {
         return;
     const PictureProblem problem = Window_.ShowPicture(JoinedPath(Window_.FilePath(), file));
     if (problem != PictureProblem::None)
-        Parts_.Questions.ShowMessage(
+        Dialogs_.ShowMessage(
             {QStringLiteral("No se puede mostrar %1: %2.").arg(file, ReasonOf(problem)),
              QStringLiteral("Error"), MessageIcon::Exclamation, MessageButtons::Ok});
 }
 
 /// The separator is always added: a drive's root, whose path ends in one, gets a doubled one.
 void MediaBrowser::cmdInsertPath_Click() {
-    EditorControl &editor = Parts_.Registry.Current().Window->Editor();
+    EditorControl &editor = Registry_.Current().Window->Editor();
     const TextPosition caret = editor.GetSel().End;
     const QString path = Window_.FilePath() + PathSeparator + Window_.SelectedFile();
     editor.InsertText(u'"' + path + u'"', caret);
@@ -95,8 +93,7 @@ void MediaBrowser::cmdInsertPath_Click() {
 
 void MediaBrowser::cmdVolver_Click() {
     Window_.Hide();
-    Parts_.Main.Activate();
-    Parts_.Events.ProcessPendingEvents();
+    Activation_.Activate();
 }
 
 } // namespace Quillbox

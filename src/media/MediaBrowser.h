@@ -5,30 +5,18 @@
 
 namespace Quillbox {
 
+class CompanionPrograms;
 class Dialogs;
-class EventLoop;
-class Files;
-class MainWindow;
+class MainWindowActivation;
 class MediaBrowserWindow;
-class Programs;
 struct DocumentRegistry;
-
-/// What the rules behind frmMediaBrowser work with.
-struct MediaBrowserParts {
-    QString AppDir;
-    DocumentRegistry &Registry;
-    MainWindow &Main;
-    Files &Stored;
-    Programs &Launcher;
-    Dialogs &Questions;
-    EventLoop &Events;
-};
 
 /// What frmMediaBrowser decides.
 class MediaBrowser {
   public:
     /// `window` is used from the first call on, not before.
-    MediaBrowser(const MediaBrowserParts &parts, MediaBrowserWindow &window);
+    MediaBrowser(MediaBrowserWindow &window, DocumentRegistry &registry, Dialogs &dialogs,
+                 CompanionPrograms &companions, MainWindowActivation &activation);
 
     /// On load, at every activation and whenever the form gets the focus: a path can be inserted
     /// while a document, not the help page, is the current one.
@@ -47,8 +35,11 @@ class MediaBrowser {
     void cmdVolver_Click();
 
   private:
-    MediaBrowserParts Parts_;
     MediaBrowserWindow &Window_;
+    DocumentRegistry &Registry_;
+    Dialogs &Dialogs_;
+    CompanionPrograms &Companions_;
+    MainWindowActivation &Activation_;
     QString PreviousDrive_; ///< empty until the drive list first gets the focus
 };
 

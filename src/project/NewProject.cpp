@@ -9,8 +9,8 @@
 
 namespace Quillbox {
 
-NewProject::NewProject(Project &open, PrivateProfile &profile, Dialogs &dialogs)
-    : Open_(open)
+NewProject::NewProject(Project &project, PrivateProfile &profile, Dialogs &dialogs)
+    : Project_(project)
     , Profile_(profile)
     , Dialogs_(dialogs) {}
 
@@ -37,7 +37,7 @@ DialogState NewProject::cmdAceptar_Click(const NewProjectTexts &texts) {
                   .OtherSources = {},
                   .ToDoList = {}},
                  Profile_);
-    Open_.File = texts.Target;
+    Project_.File = texts.Target;
     return DialogState::Closes;
 }
 

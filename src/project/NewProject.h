@@ -24,7 +24,7 @@ enum class DialogState { Stays, Closes };
 /// What frmNewProject decides.
 class NewProject {
   public:
-    NewProject(Project &open, PrivateProfile &profile, Dialogs &dialogs);
+    NewProject(Project &project, PrivateProfile &profile, Dialogs &dialogs);
 
     /// The main source that the person chose; empty when the person cancels.
     std::optional<QString> cmdBrowse_Click();
@@ -35,7 +35,7 @@ class NewProject {
     DialogState cmdAceptar_Click(const NewProjectTexts &texts);
 
   private:
-    Project &Open_;
+    Project &Project_;
     PrivateProfile &Profile_;
     Dialogs &Dialogs_;
 };

@@ -2,61 +2,58 @@
 #include "project/ProjectCommands.h"
 
 #include "base/ResumeNext.h"
-#include "documents/DocumentCommands.h"
+#include "project/ProjectDisplay.h"
 #include "project/ProjectFile.h"
+#include "project/ProjectSources.h"
 #include "state/Project.h"
 #include "surfaces/Dialogs.h"
-#include "surfaces/FileExists.h"
-#include "surfaces/MainWindow.h"
 
 namespace Quillbox {
 
-ProjectCommands::ProjectCommands(const ProjectParts &parts)
-    : Parts_(parts) {}
+ProjectCommands::ProjectCommands(Project &project, PrivateProfile &profile, Dialogs &dialogs,
+                                 ProjectSources &sources, ProjectDisplay &display)
+    : Project_(project)
+    , Profile_(profile)
+    , Dialogs_(dialogs)
+    , Sources_(sources)
+    , Display_(display) {}
 
 void ProjectCommands::OpenProject(const QString &path) {
     if (!path.isEmpty())
         return ReadOpenProject(path);
-    const auto chosen = Parts_.Questions.ShowOpen({FileChooserFlags::FileMustExist, ProjectFilter});
+    const auto chosen = Dialogs_.ShowOpen({FileChooserFlags::FileMustExist, ProjectFilter});
     if (chosen)
         ReadOpenProject(*chosen);
 }
 
 void ProjectCommands::ReadOpenProject(const QString &path) {
     ResumeNext steps;
-    Parts_.Open.File = path;
-    steps.Try([this] { ReadProject(Parts_.Open, Parts_.Profile); });
-    steps.Try([this] { Parts_.Main.SetCaption(ProjectCaption(Parts_.Open.Title)); });
-    steps.Try([this] { EnableProjectMenus(Parts_.Main, true); });
-    steps.Try([this] { OpenMainSource(); });
-}
-
-void ProjectCommands::OpenMainSource() {
-    const QString source = Parts_.Open.MainSource;
-    if (FileExists(source, Parts_.Stored, Parts_.Questions))
-        Parts_.Documents.OpenDocument(source);
+    Project_.File = path;
+    steps.Try([this] { ReadProject(Project_, Profile_); });
+    steps.Try([this] { Display_.ShowTitle(Project_.Title); });
+    steps.Try([this] { Display_.EnableMenus(); });
+    steps.Try([this] { Sources_.Open(QString(Project_.MainSource)); });
 }
 
 void ProjectCommands::mnuArchivo_AbrirProyecto_Click() { OpenProject(QString()); }
 
 void ProjectCommands::mnuArchivo_GuardarProyecto_Click() {
-    WriteProject(Parts_.Open, Parts_.Profile);
-    Parts_.Open.Modified = false;
+    WriteProject(Project_, Profile_);
+    Project_.Modified = false;
 }
 
 void ProjectCommands::mnuArchivo_GuardarProyectoComo_Click() {
-    const auto chosen =
-        Parts_.Questions.ShowSave({FileChooserFlags::OverwritePrompt, ProjectFilter});
+    const auto chosen = Dialogs_.ShowSave({FileChooserFlags::OverwritePrompt, ProjectFilter});
     if (!chosen)
         return;
     ResumeNext steps;
-    Parts_.Open.File = *chosen;
+    Project_.File = *chosen;
     steps.Try([this] { mnuArchivo_GuardarProyecto_Click(); });
 }
 
 void ProjectCommands::mnuArchivo_CerrarProyecto_Click() {
-    if (Parts_.Open.Modified) {
-        const MessageAnswer answer = Parts_.Questions.ShowMessage(
+    if (Project_.Modified) {
+        const MessageAnswer answer = Dialogs_.ShowMessage(
             {QStringLiteral("El proyecto ha sido modificado, ¿quieres guardar los cambios?"),
              QStringLiteral("Aviso"), MessageIcon::Exclamation, MessageButtons::YesNoCancel});
         if (answer == MessageAnswer::Cancel)
@@ -64,17 +61,16 @@ void ProjectCommands::mnuArchivo_CerrarProyecto_Click() {
         if (answer == MessageAnswer::Yes)
             mnuArchivo_GuardarProyecto_Click();
     }
-    Parts_.Open.File.clear();
-    Parts_.Main.SetCaption(NoProjectCaption);
-    EnableProjectMenus(Parts_.Main, false);
+    Project_.File.clear();
+    Display_.ShowNone();
 }
 
-void ProjectCommands::mnuArchivo_NuevoProyecto_Click() {
-    if (!Parts_.Open.File.isEmpty())
+void ProjectCommands::mnuArchivo_NuevoProyecto_Click(const std::function<void()> &showNewProject) {
+    if (!Project_.File.isEmpty())
         mnuArchivo_CerrarProyecto_Click();
-    Parts_.ShowNewProject();
-    if (!Parts_.Open.File.isEmpty())
-        OpenProject(Parts_.Open.File);
+    showNewProject();
+    if (!Project_.File.isEmpty())
+        OpenProject(Project_.File);
 }
 
 } // namespace Quillbox

@@ -8,28 +8,16 @@
 namespace Quillbox {
 
 class Dialogs;
-class DocumentCommands;
-class Files;
-class MainWindow;
 class PrivateProfile;
+class ProjectDisplay;
+class ProjectSources;
 struct Project;
-
-/// What the commands of a project work with.
-struct ProjectParts {
-    Project &Open;
-    MainWindow &Main;
-    PrivateProfile &Profile;
-    Files &Stored;
-    Dialogs &Questions;
-    DocumentCommands &Documents;
-    /// Shows frmNewProject until it is closed; a project that it made is then `Open.File`.
-    std::function<void()> ShowNewProject;
-};
 
 /// The File menu's commands on the project.
 class ProjectCommands {
   public:
-    explicit ProjectCommands(const ProjectParts &parts);
+    ProjectCommands(Project &project, PrivateProfile &profile, Dialogs &dialogs,
+                    ProjectSources &sources, ProjectDisplay &display);
 
     /// Makes the file's project the open one and opens its main source. An empty path asks for the
     /// file. A project that was open before is neither asked about nor saved, and whether something
@@ -43,15 +31,19 @@ class ProjectCommands {
     /// Asks about changes. Only `File` is emptied: what the person dropped still counts as
     /// modified, so that the next project asks, too.
     void mnuArchivo_CerrarProyecto_Click();
-    /// A project that stays open, because both the question and the dialog were cancelled, is read
-    /// again from its file.
-    void mnuArchivo_NuevoProyecto_Click();
+    /// `showNewProject` shows frmNewProject until it is closed; a project that it made is then the
+    /// record's `File`. A project that stays open, because both the question and the dialog were
+    /// cancelled, is read again from its file.
+    void mnuArchivo_NuevoProyecto_Click(const std::function<void()> &showNewProject);
 
   private:
     void ReadOpenProject(const QString &path);
-    void OpenMainSource();
 
-    ProjectParts Parts_;
+    Project &Project_;
+    PrivateProfile &Profile_;
+    Dialogs &Dialogs_;
+    ProjectSources &Sources_;
+    ProjectDisplay &Display_;
 };
 
 } // namespace Quillbox

@@ -8,10 +8,8 @@
 namespace Quillbox {
 
 class Dialogs;
-class DocumentCommands;
-class EventLoop;
-class Files;
-class MainWindow;
+class MainWindowActivation;
+class ProjectSources;
 struct Project;
 
 /// What frmProjectInfo shows.
@@ -23,21 +21,12 @@ struct ProjectInfoTexts {
     QStringList Files; ///< the main source, then the other sources in stored order
 };
 
-/// What the rules behind frmProjectInfo work with.
-struct ProjectInfoParts {
-    Project &Open;
-    Dialogs &Questions;
-    Files &Stored;
-    DocumentCommands &Documents;
-    MainWindow &Main;
-    EventLoop &Events;
-};
-
 /// What frmProjectInfo decides. Entries of its list lstFiles are numbered from 0; the main source
 /// is always entry 0.
 class ProjectInfo {
   public:
-    explicit ProjectInfo(const ProjectInfoParts &parts);
+    ProjectInfo(Project &project, Dialogs &dialogs, ProjectSources &sources,
+                MainWindowActivation &activation);
 
     ProjectInfoTexts Form_Load() const;
     /// Takes over what the window shows when it closes. The main source is never changed.
@@ -51,7 +40,10 @@ class ProjectInfo {
     void lstFiles_DblClick(const std::optional<QString> &selected);
 
   private:
-    ProjectInfoParts Parts_;
+    Project &Project_;
+    Dialogs &Dialogs_;
+    ProjectSources &Sources_;
+    MainWindowActivation &Activation_;
 };
 
 } // namespace Quillbox

@@ -19,16 +19,18 @@ std::optional<int> CurrentOf(const std::vector<Task> &tasks) {
 
 } // namespace
 
-ToDoList::ToDoList(Project &open, Dialogs &dialogs)
-    : Open_(open)
+ToDoList::ToDoList(Project &project, Dialogs &dialogs)
+    : Project_(project)
     , Dialogs_(dialogs) {}
 
 ToDoEntries ToDoList::Form_Load() const {
-    const std::vector<Task> tasks = UnpackToDoList(Open_.ToDoList);
+    const std::vector<Task> tasks = UnpackToDoList(Project_.ToDoList);
     return {tasks, CurrentOf(tasks)};
 }
 
-void ToDoList::Form_Unload(const std::vector<Task> &tasks) { Open_.ToDoList = PackToDoList(tasks); }
+void ToDoList::Form_Unload(const std::vector<Task> &tasks) {
+    Project_.ToDoList = PackToDoList(tasks);
+}
 
 std::optional<QString> ToDoList::cmdAñadir_Click() {
     const auto description = Dialogs_.ShowInput(
@@ -40,7 +42,7 @@ std::optional<QString> ToDoList::cmdAñadir_Click() {
                               QStringLiteral("Error"), MessageIcon::Critical, MessageButtons::Ok});
         return std::nullopt;
     }
-    Open_.Modified = true;
+    Project_.Modified = true;
     return description;
 }
 
@@ -52,7 +54,7 @@ bool ToDoList::cmdBorrar_Click(std::optional<int> current) {
                               MessageIcon::Information, MessageButtons::YesNo});
     if (answer != MessageAnswer::Yes)
         return false;
-    Open_.Modified = true;
+    Project_.Modified = true;
     return true;
 }
 

@@ -19,7 +19,7 @@ struct ToDoEntries {
 /// What frmToDoList decides.
 class ToDoList {
   public:
-    ToDoList(Project &open, Dialogs &dialogs);
+    ToDoList(Project &project, Dialogs &dialogs);
 
     /// Every done task becomes the current one while the list fills, so the last of them stays it;
     /// without one it is the first task.
@@ -33,7 +33,7 @@ class ToDoList {
     bool cmdBorrar_Click(std::optional<int> current);
 
   private:
-    Project &Open_;
+    Project &Project_;
     Dialogs &Dialogs_;
 };
 

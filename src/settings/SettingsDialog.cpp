@@ -1,20 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/SettingsDialog.h"
 
-#include "base/AppDir.h"
 #include "base/Numbers.h"
 #include "base/ResumeNext.h"
-#include "language/SymbolLists.h"
+#include "settings/SettingsEffect.h"
 #include "settings/SettingsWindow.h"
-#include "state/DocumentRegistry.h"
-#include "state/Language.h"
-#include "state/LanguageDefinition.h"
 #include "state/settings.h"
-#include "surfaces/DocumentWindow.h"
-#include "surfaces/EditorControl.h"
-#include "surfaces/EventLoop.h"
-#include "surfaces/LanguageRegistration.h"
-#include "surfaces/Programs.h"
+#include "surfaces/CompanionPrograms.h"
 
 namespace Quillbox {
 namespace {
@@ -41,18 +33,22 @@ QString ToolsFolderOf(const QString &compilerPath) {
 
 } // namespace
 
-SettingsDialog::SettingsDialog(SettingsWindow &window, const SettingsDialogParts &parts)
+SettingsDialog::SettingsDialog(SettingsWindow &window, Settings &settings, Dialogs &dialogs,
+                               SettingsEffect &effect, CompanionPrograms &companions)
     : Window_(window)
-    , Parts_(parts) {}
+    , Settings_(settings)
+    , Dialogs_(dialogs)
+    , Effect_(effect)
+    , Companions_(companions) {}
 
 void SettingsDialog::Form_Load() {
-    LoadColors(ItemAttributes_, Parts_.Options);
-    LoadStyles(ItemAttributes_, Parts_.Options);
+    LoadColors(ItemAttributes_, Settings_);
+    LoadStyles(ItemAttributes_, Settings_);
     ShowSettings();
 }
 
 void SettingsDialog::ShowSettings() {
-    const Settings &settings = Parts_.Options;
+    const Settings &settings = Settings_;
     Window_.SetText(SettingsText::CompilerPath, settings.FenixCPath);
     Window_.SetText(SettingsText::HelpPath, settings.HelpPath);
     Window_.SetChecked(SettingsCheck::ColorSyntax, settings.ColorSyntax);
@@ -72,7 +68,7 @@ void SettingsDialog::ShowSettings() {
 /// The labels' and types' boxes are stored after the scan, which therefore still goes by their
 /// previous values; the next scan goes by the new ones.
 void SettingsDialog::StoreSettings() {
-    Settings &settings = Parts_.Options;
+    Settings &settings = Settings_;
     settings.FenixCPath = Window_.Text(SettingsText::CompilerPath);
     settings.HelpPath = Window_.Text(SettingsText::HelpPath);
     settings.MainPath = ToolsFolderOf(settings.FenixCPath);
@@ -81,23 +77,13 @@ void SettingsDialog::StoreSettings() {
     settings.LineNumbers = Window_.IsChecked(SettingsCheck::LineNumbers);
     settings.ShowQuickHelp = Window_.IsChecked(SettingsCheck::QuickHelp);
     settings.ShowFunctions = Window_.IsChecked(SettingsCheck::Functions);
-    RefreshSymbols();
+    Effect_.RefreshSymbols();
     settings.ShowLabels = Window_.IsChecked(SettingsCheck::Labels);
     settings.ShowTypes = Window_.IsChecked(SettingsCheck::Types);
     SaveColors(ItemAttributes_, settings);
     SaveStyles(ItemAttributes_, settings);
     settings.Font = Font_.Name;
     settings.FontSize = ToByte(Font_.Size);
-}
-
-void SettingsDialog::RefreshSymbols() {
-    const SymbolParts &symbols = Parts_.Symbols;
-    if (Parts_.Options.ShowFunctions)
-        return symbols.Scanner.ScanSymbols();
-    LanguageDefinition &definition = symbols.Language.Definition;
-    definition.UserWords.clear();
-    symbols.Language.Registration.RegisterLanguage(SourceLanguage.Name, definition);
-    ClearNavigationLists(symbols.Lists);
 }
 
 void SettingsDialog::lstItems_Click() {
@@ -115,8 +101,7 @@ void SettingsDialog::ShowItemStyle() { Window_.SelectStyle(SelectedAttribute().S
 void SettingsDialog::lstStyles_Click(int style) { SelectedAttribute().Style = ToByte(style); }
 
 void SettingsDialog::cmdCambiarColor_Click() {
-    const auto chosen =
-        AnswerOf([this] { return Parts_.Questions.ShowColor(SelectedAttribute().Color); });
+    const auto chosen = AnswerOf([this] { return Dialogs_.ShowColor(SelectedAttribute().Color); });
     if (!chosen)
         return;
     SelectedAttribute().Color = *chosen;
@@ -124,7 +109,7 @@ void SettingsDialog::cmdCambiarColor_Click() {
 }
 
 void SettingsDialog::cmdCambiarFuente_Click() {
-    const auto chosen = AnswerOf([this] { return Parts_.Questions.ShowFont(Font_); });
+    const auto chosen = AnswerOf([this] { return Dialogs_.ShowFont(Font_); });
     if (!chosen)
         return;
     Font_ = *chosen;
@@ -136,7 +121,7 @@ void SettingsDialog::ShowFontSample() {
 }
 
 void SettingsDialog::cmdCompilerBrowse_Click() {
-    if (const auto chosen = Browse(QStringLiteral("Seleccionar FXC.exe"), Parts_.Options.FenixCPath,
+    if (const auto chosen = Browse(QStringLiteral("Seleccionar FXC.exe"), Settings_.FenixCPath,
                                    QStringLiteral("Archivo FXC.exe|FXC.exe")))
         Window_.SetText(SettingsText::CompilerPath, *chosen);
 }
@@ -144,9 +129,8 @@ void SettingsDialog::cmdCompilerBrowse_Click() {
 /// The filter asks for "index.html", though the help page that comes with the program is called
 /// "index.htm".
 void SettingsDialog::cmdHelpBrowse_Click() {
-    if (const auto chosen =
-            Browse(QStringLiteral("Seleccionar index.html"), Parts_.Options.HelpPath,
-                   QStringLiteral("Índice de la ayuda (index.html)|index.html")))
+    if (const auto chosen = Browse(QStringLiteral("Seleccionar index.html"), Settings_.HelpPath,
+                                   QStringLiteral("Índice de la ayuda (index.html)|index.html")))
         Window_.SetText(SettingsText::HelpPath, *chosen);
 }
 
@@ -154,7 +138,7 @@ void SettingsDialog::cmdHelpBrowse_Click() {
 std::optional<QString> SettingsDialog::Browse(const QString &title, const QString &stored,
                                               const QString &filter) {
     return AnswerOf([&] {
-        return Parts_.Questions.ShowOpen({FileChooserFlags::None, filter, stored, title, stored});
+        return Dialogs_.ShowOpen({FileChooserFlags::None, filter, stored, title, stored});
     });
 }
 
@@ -186,20 +170,13 @@ void SettingsDialog::cmdAceptar_Click() {
 void SettingsDialog::cmdAplicar_Click() {
     StoreSettings();
     Window_.Hide();
-    if (Parts_.Registry.CurrentIndex >= 1)
-        Parts_.Registry.Current().Window->Editor().SetFocus(); // which applies the settings to it
-    Parts_.Events.ProcessPendingEvents();
+    Effect_.ShowInDocument();
     Window_.ShowAgain();
 }
 
 void SettingsDialog::cmdCancelar_Click() { Window_.Unload(); }
 
-/// The path is not quoted: the explorer takes the rest of its command line as one path.
-void SettingsDialog::cmdAyuda_Click() {
-    Parts_.Launcher.Start(QStringLiteral("explorer.exe ") +
-                              HelpPagePath(Parts_.AppDir, QStringLiteral("HowTo.htm")),
-                          WindowStyle::Maximized);
-}
+void SettingsDialog::cmdAyuda_Click() { Companions_.ShowHelpPage(QStringLiteral("HowTo.htm")); }
 
 ItemAttribute &SettingsDialog::SelectedAttribute() {
     return ItemAttributes_.at(static_cast<std::size_t>(Window_.SelectedItem()));

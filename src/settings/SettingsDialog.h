@@ -1,38 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "language/SymbolScanner.h"
 #include "settings/ItemAttributes.h"
 #include "surfaces/Dialogs.h"
 
 namespace Quillbox {
 
-class Programs;
+class CompanionPrograms;
+class SettingsEffect;
 class SettingsWindow;
-
-/// What collects the functions, labels and types of the current document, and where they go.
-struct SymbolParts {
-    SymbolScanner &Scanner;
-    RegisteredLanguage Language;
-    NavigationLists &Lists;
-};
-
-/// What the rules behind frmSettings work with.
-struct SettingsDialogParts {
-    QString AppDir; ///< the program folder with its separator
-    Settings &Options;
-    DocumentRegistry &Registry;
-    SymbolParts Symbols;
-    Dialogs &Questions;
-    Programs &Launcher;
-    EventLoop &Events;
-};
 
 /// What frmSettings decides, from its opening to its end. The settings change in memory only, when
 /// they are accepted or applied; the file is written when the program ends.
 class SettingsDialog {
   public:
-    SettingsDialog(SettingsWindow &window, const SettingsDialogParts &parts);
+    SettingsDialog(SettingsWindow &window, Settings &settings, Dialogs &dialogs,
+                   SettingsEffect &effect, CompanionPrograms &companions);
 
     void Form_Load();
     void lstItems_Click();
@@ -60,7 +43,6 @@ class SettingsDialog {
   private:
     void ShowSettings();
     void StoreSettings();
-    void RefreshSymbols();
     void ShowItemColor();
     void ShowItemStyle();
     void ShowFontSample();
@@ -70,7 +52,10 @@ class SettingsDialog {
     double TabSizeNumber() const;
 
     SettingsWindow &Window_;
-    SettingsDialogParts Parts_;
+    Settings &Settings_;
+    Dialogs &Dialogs_;
+    SettingsEffect &Effect_;
+    CompanionPrograms &Companions_;
     ItemAttributes ItemAttributes_;
     FontChoice Font_; ///< what the font chooser offers and the sample shows
 };

@@ -7,8 +7,6 @@
 
 namespace Quillbox {
 
-class MainWindow;
-
 /// The open project. An empty `File` means that no project is open; the other fields may then still
 /// hold what the last one left.
 struct Project {
@@ -32,8 +30,5 @@ inline const QString NoProjectCaption =
 
 /// The main window's caption while a project is open.
 QString ProjectCaption(const QString &title);
-
-/// Enables or disables the menu items that need an open project.
-void EnableProjectMenus(MainWindow &mainWindow, bool enabled);
 
 } // namespace Quillbox

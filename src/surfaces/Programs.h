@@ -15,8 +15,9 @@ class Programs {
     virtual ~Programs() = default;
 
     /// Starts a program by its command line; it is never waited for and leaves no zombie behind.
-    /// Throws RuntimeError 53 when it is not there and 5 or 70 when it cannot be started. Where there
-    /// is no "calc.exe" and no "explorer.exe", they stand for what the desktop has in their place.
+    /// Throws RuntimeError 53 when it is not there and 5 or 70 when it cannot be started. Where
+    /// there is no "calc.exe" and no "explorer.exe", they stand for what the desktop has in their
+    /// place.
     virtual void Start(const QString &commandLine, WindowStyle style) = 0;
     /// Hands a web or mail address to the person's own program for it; errors as in Start.
     virtual void OpenAddress(const QString &address) = 0;

@@ -4,6 +4,7 @@
 #include "base/Paths.h"
 #include "fakes/ErrorNumber.h"
 #include "fakes/FakeSystem.h"
+#include "surfaces/CompanionPrograms.h"
 
 #include <QStringList>
 #include <gmock/gmock.h>
@@ -24,7 +25,9 @@ class ExternalToolsTest : public testing::Test {
     FakePrograms Launcher{Log};
     FakeFiles Stored{Log};
     FakeDialogs Questions{Log};
-    ExternalTools Tools{QStringLiteral("/mi carpeta") + PathSeparator, Launcher, Stored, Questions};
+    CompanionPrograms Companions{QStringLiteral("/mi carpeta") + PathSeparator, Stored, Launcher,
+                                 Questions};
+    ExternalTools Tools{Companions, Launcher};
 };
 
 TEST_F(ExternalToolsTest, TheCalculatorStartsMinimisedAndUnchecked) {

@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/StartUp.h"
 
+#include "RulesProgram.h"
 #include "base/Paths.h"
 #include "base/Version.h"
 #include "fakes/ErrorNumber.h"
-#include "fakes/FakeProgram.h"
-#include "state/WordFiles.h"
-
-#include <gmock/gmock.h>
 
 namespace Quillbox {
 namespace {
@@ -15,25 +12,18 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class StartingUp : public FakeProgram {
+class StartingUp : public RulesProgram {
   protected:
     StartingUp() {
         Stored.Contents["/q/Keywords.txt"] = "Print\r\ncls\r\n";
         Stored.Contents["/q/QuickHelp.txt"] = "ayuda de Print\r\n";
     }
 
-    void Run() {
-        StartUp{"/q/", Main, Commands, {Words.LanguageDefinition, Languages}, Reader, Store, Help}
-            .Run();
-    }
+    void Run() { StartUp(On, "/q/"); }
 
     static std::string IndexPage() {
         return (QString("/q/Ayuda") + PathSeparator + "index.htm").toStdString();
     }
-
-    LanguageWords Words;
-    WordFiles Reader{"/q/", Words, Stored, Questions};
-    SettingsStore Store{"/q/", Options, Profile};
 };
 
 TEST_F(StartingUp, RunsItsStepsInOrder) {
@@ -96,8 +86,8 @@ TEST_F(StartingUp, FillsTheSettings) {
 
     Run();
 
-    EXPECT_EQ(Options.TabSize, 7);
-    EXPECT_EQ(Options.Font, QString("Courier"));
+    EXPECT_EQ(On.Settings.TabSize, 7);
+    EXPECT_EQ(On.Settings.Font, QString("Courier"));
 }
 
 /// The page at the start is the program's own one, not the one of the settings.
@@ -112,8 +102,8 @@ TEST_F(StartingUp, ShowsTheHelpIndexOfTheProgramFolder) {
 TEST_F(StartingUp, LeavesTheHelpPageActiveWithoutDocuments) {
     Run();
 
-    EXPECT_EQ(Registry.CurrentIndex, 0);
-    EXPECT_EQ(Registry.DocumentCount, 0);
+    EXPECT_EQ(On.Registry.CurrentIndex, 0);
+    EXPECT_EQ(On.Registry.DocumentCount, 0);
     EXPECT_EQ(Tabs.Selected, 1);
 }
 

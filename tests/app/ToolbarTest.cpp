@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Toolbar.h"
 
+#include "HoldsInOrder.h"
 #include "fakes/CallLog.h"
 #include "state/DocumentRegistry.h"
 #include "state/Project.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <set>
 
@@ -53,13 +51,6 @@ constexpr Case NeedingTheHelpPage[] = {
 
 class ToolbarClicks : public testing::Test {
   protected:
-    ToolbarClicks() {
-        for (const ToolButton &button : ToolButtons()) {
-            const QString name = QString::fromUtf8(button.Command);
-            Commands[name] = [this, name] { Log.Add("run", name); };
-        }
-    }
-
     std::vector<std::string> CallsOfClick(const char *tooltip) {
         Log.Clear();
         Toolbar.tbEstandar_ButtonClick(QString::fromUtf8(tooltip));
@@ -67,10 +58,11 @@ class ToolbarClicks : public testing::Test {
     }
 
     CallLog Log;
-    CommandTable Commands;
     DocumentRegistry Registry;
     Project OpenProject;
-    ToolbarDispatch Toolbar{Commands, Registry, OpenProject};
+    ToolbarDispatch Toolbar{Registry, OpenProject, [this](const Command &command) {
+                                Log.Add("run", QString::fromUtf8(command.Name));
+                            }};
 };
 
 TEST_F(ToolbarClicks, RunTheCommandOfTheirTooltip) {
@@ -115,43 +107,55 @@ TEST_F(ToolbarClicks, DoNothingForAnyOtherTooltip) {
         EXPECT_THAT(CallsOfClick(tooltip), IsEmpty()) << tooltip;
 }
 
-TEST_F(ToolbarClicks, DoNothingWhileTheirCommandIsMissing) {
-    Commands.erase("mnuArchivo_Nuevo");
-
-    EXPECT_THAT(CallsOfClick("Nuevo"), IsEmpty());
-    EXPECT_THAT(CallsOfClick("Abrir"), ElementsAre("run mnuArchivo_Abrir"));
-}
-
-TEST(ToolButtons, StandInTheOrderOfDispatch) {
+std::vector<std::string> Tooltips() {
     std::vector<std::string> tooltips;
-    for (const ToolButton &button : ToolButtons())
-        if (*button.Tooltip)
-            tooltips.emplace_back(button.Tooltip);
-
-    EXPECT_THAT(tooltips, ElementsAre("Nuevo", "Abrir", "Guardar", "Imprimir", "Cerrar",
-                                      "Configuración", "Buscar", "Deshacer", "Rehacer", "Cortar",
-                                      "Copiar", "Pegar", "Ejecutar", "Abrir Proyecto",
-                                      "Información del Proyecto", "Tareas Pendientes",
-                                      "Explorador Media", "Inicio", "Atrás", "Adelante", "Salir"));
+    for (const Command &command : ToolbarCommands())
+        tooltips.emplace_back(command.Button.Tooltip);
+    return tooltips;
 }
 
-TEST(ToolButtons, HaveAPictureOfTheirOwn) {
+/// Further buttons may stand between them.
+TEST(ToolButtons, StandInTheOrderOfDispatch) {
+    const std::vector<std::string> order = {"Nuevo",
+                                            "Abrir",
+                                            "Guardar",
+                                            "Imprimir",
+                                            "Cerrar",
+                                            "Configuración",
+                                            "Buscar",
+                                            "Deshacer",
+                                            "Rehacer",
+                                            "Cortar",
+                                            "Copiar",
+                                            "Pegar",
+                                            "Ejecutar",
+                                            "Abrir Proyecto",
+                                            "Información del Proyecto",
+                                            "Tareas Pendientes",
+                                            "Explorador Media",
+                                            "Inicio",
+                                            "Atrás",
+                                            "Adelante",
+                                            "Salir"};
+    EXPECT_THAT(Tooltips(), HoldsInOrder(order));
+}
+
+TEST(ToolButtons, HaveATooltipAndAPictureOfTheirOwn) {
+    std::set<std::string> tooltips;
     std::set<std::string> pictures;
-    for (const ToolButton &button : ToolButtons())
-        if (*button.Tooltip) {
-            EXPECT_STRNE(button.Icon, "") << button.Tooltip;
-            EXPECT_TRUE(pictures.insert(button.Icon).second) << button.Icon;
-        }
+    for (const Command &command : ToolbarCommands()) {
+        const ToolButton &button = command.Button;
+        EXPECT_STRNE(button.Tooltip, "") << command.Name;
+        EXPECT_TRUE(tooltips.insert(button.Tooltip).second) << button.Tooltip;
+        EXPECT_STRNE(button.Icon, "") << button.Tooltip;
+        EXPECT_TRUE(pictures.insert(button.Icon).second) << button.Icon;
+    }
 }
 
-TEST(ToolButtons, StandInGroups) {
-    bool afterSeparator = true;
-    for (const ToolButton &button : ToolButtons()) {
-        const bool isSeparator = !*button.Tooltip;
-        EXPECT_FALSE(isSeparator && afterSeparator);
-        afterSeparator = isSeparator;
-    }
-    EXPECT_FALSE(afterSeparator);
+TEST(ToolButtons, HaveAPlaceOfTheirOwn) {
+    std::set<int> places;
+    for (const Command &command : ToolbarCommands())
+        EXPECT_TRUE(places.insert(command.Button.Place).second) << command.Button.Tooltip;
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "build/BuildCommands.h"
 #include "build/Compiler.h"
 #include "build/CompilerLog.h"
+#include "build/LanguageTools.h"
 #include "fakes/ErrorNumber.h"
 #include "fakes/FakeProgram.h"
 
@@ -40,7 +41,8 @@ class BuildProgram : public FakeProgram {
 
     CompilerLog Reader{ProgramFolder, Registry, Documents, Stored, Questions};
     Compiler Runner{Console, Events, Main, Reader};
-    BuildCommands Build{{Registry, Documents, Options, Runner, Reader, Launcher, Questions}};
+    LanguageTools Tools{Options, Launcher};
+    BuildCommands Build{Registry, Documents, Questions, Runner, Tools};
 };
 
 } // namespace Quillbox

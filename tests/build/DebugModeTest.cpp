@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "build/DebugMode.h"
 #include "BuildProgram.h"
 
 namespace Quillbox {
@@ -8,20 +9,20 @@ using testing::ElementsAre;
 
 class DebugModeItem : public BuildProgram {
   protected:
-    void Click() { mnuPrograma_ModoDebug_Click(DebugMode, Main); }
-    bool DebugMode = false;
+    void Click() { Debug.mnuPrograma_ModoDebug_Click(); }
+    DebugMode Debug{Main};
 };
 
 TEST_F(DebugModeItem, TurnsTheModeAndItsCheckMarkOn) {
     Click();
-    EXPECT_TRUE(DebugMode);
+    EXPECT_TRUE(Debug.IsOn());
     EXPECT_THAT(Log.Calls(), ElementsAre("main.CheckCommand mnuPrograma_ModoDebug true"));
 }
 
 TEST_F(DebugModeItem, RestoresTheCheckMarkOnTheSecondClick) {
     Click();
     Click();
-    EXPECT_FALSE(DebugMode);
+    EXPECT_FALSE(Debug.IsOn());
     EXPECT_FALSE(Main.Checked.at(QStringLiteral("mnuPrograma_ModoDebug")));
 }
 

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/Menus.h"
+#include "app/Commands.h"
 #include "data_files/HelpFolder.h"
 
-#include <QHash>
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
+
+#include <map>
 
 namespace Quillbox {
 namespace {
@@ -14,44 +15,63 @@ QString SpanishKeys(const QString &shortcut) {
 }
 
 /// A caption without its mark for the mnemonic.
-QString PlainCaption(const MenuEntry &entry) {
-    return QString::fromUtf8(entry.Caption).remove(u'&');
+QString PlainCaption(const Command &command) {
+    return QString::fromUtf8(command.Caption).remove(u'&');
 }
 
-/// The rows of the page of keys: what stands behind each key.
-QHash<QString, QString> RowsByKey() {
-    const QString page = HelpPage("teclas.htm");
+using Rows = std::map<QString, QString>;
+
+/// What stands behind each key in a part of the page of keys.
+Rows RowsByKey(const QString &part) {
     const char *const keyPattern = R"re(<tr><td class="clave">([^<]*)</td><td>[^<]*</td>)re";
     const char *const textPattern = R"re(<tr><td class="clave">[^<]*</td><td>([^<]*)</td>)re";
-    const QStringList keys = AllMatches(page, keyPattern);
-    const QStringList texts = AllMatches(page, textPattern);
-    QHash<QString, QString> rows;
+    const QStringList keys = AllMatches(part, keyPattern);
+    const QStringList texts = AllMatches(part, textPattern);
+    Rows rows;
     for (qsizetype i = 0; i < keys.size(); ++i)
-        rows.insert(keys[i], texts.value(i));
-    EXPECT_EQ(rows.size(), keys.size()) << "a key stands twice";
+        EXPECT_TRUE(rows.emplace(keys[i], texts.value(i)).second)
+            << "a key stands twice: " << qPrintable(keys[i]);
+    EXPECT_FALSE(rows.empty());
     return rows;
 }
 
-TEST(HelpShortcuts, AreThoseOfTheMenus) {
-    const auto rows = RowsByKey();
-    ASSERT_FALSE(rows.isEmpty());
-    for (const MenuEntry &entry : MenuEntries()) {
-        if (*entry.Shortcut == '\0')
-            continue;
-        EXPECT_EQ(rows.value(SpanishKeys(entry.Shortcut)).toStdString(),
-                  PlainCaption(entry).toStdString())
-            << entry.Shortcut;
-    }
+/// The page names the menus' keys first, then those that only the editor knows.
+struct PageOfKeys {
+    Rows Menus;
+    Rows Editor;
+};
+
+PageOfKeys ThePage() {
+    const QString page = HelpPage("teclas.htm");
+    const qsizetype editor = page.indexOf(R"(<a name="editor">)");
+    EXPECT_GT(editor, 0);
+    return {RowsByKey(page.left(editor)), RowsByKey(page.mid(editor))};
 }
 
-TEST(HelpShortcuts, NameNoCommandThatHasAnotherKey) {
-    const auto rows = RowsByKey();
-    for (const MenuEntry &entry : MenuEntries()) {
-        const QString key = rows.key(PlainCaption(entry));
-        if (key.isEmpty() || *entry.Menu == '\0')
-            continue;
-        EXPECT_EQ(key.toStdString(), SpanishKeys(entry.Shortcut).toStdString()) << entry.Name;
-    }
+Rows KeysOfTheMenus() {
+    Rows rows;
+    for (const Command &command : Commands())
+        if (*command.Key)
+            rows.emplace(SpanishKeys(command.Key), PlainCaption(command));
+    return rows;
+}
+
+std::vector<std::string> Lines(const Rows &rows) {
+    std::vector<std::string> lines;
+    for (const auto &[key, text] : rows)
+        lines.push_back((key + ": " + text).toStdString());
+    return lines;
+}
+
+/// Neither a key without its line nor a line without its key.
+TEST(HelpShortcuts, AreThoseOfTheMenus) {
+    EXPECT_THAT(Lines(ThePage().Menus), testing::ElementsAreArray(Lines(KeysOfTheMenus())));
+}
+
+TEST(HelpShortcuts, NameNoKeyOfAMenuAmongThoseOfTheEditor) {
+    const Rows menus = KeysOfTheMenus();
+    for (const auto &[key, text] : ThePage().Editor)
+        EXPECT_FALSE(menus.contains(key)) << qPrintable(key);
 }
 
 } // namespace

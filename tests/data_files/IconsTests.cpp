@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/Commands.h"
 #include "data_files/DataFile.h"
 
 #include <QGuiApplication>
@@ -6,52 +7,37 @@
 #include <QPainter>
 #include <QSvgRenderer>
 #include <gtest/gtest.h>
+
+#include <map>
 #include <memory>
 
 namespace Quillbox {
 namespace {
 
-struct Picture {
-    const char *Name;
-    QSize Size;
-};
-
-void PrintTo(const Picture &picture, std::ostream *stream) { *stream << picture.Name; }
-
 constexpr QSize ButtonSize(24, 24);
 
-const Picture Pictures[] = {
-    {"nuevo", ButtonSize},
-    {"abrir", ButtonSize},
-    {"guardar", ButtonSize},
-    {"imprimir", ButtonSize},
-    {"cerrar", ButtonSize},
-    {"configuracion", ButtonSize},
-    {"buscar", ButtonSize},
-    {"deshacer", ButtonSize},
-    {"rehacer", ButtonSize},
-    {"cortar", ButtonSize},
-    {"copiar", ButtonSize},
-    {"pegar", ButtonSize},
-    {"ejecutar", ButtonSize},
-    {"abrir_proyecto", ButtonSize},
-    {"informacion_del_proyecto", ButtonSize},
-    {"tareas_pendientes", ButtonSize},
-    {"explorador_media", ButtonSize},
-    {"inicio", ButtonSize},
-    {"atras", ButtonSize},
-    {"adelante", ButtonSize},
-    {"salir", ButtonSize},
-    {"carpeta", ButtonSize},
-    {"carpeta_abierta", ButtonSize},
-    {"archivo_imagen", ButtonSize},
-    {"archivo_modelo", ButtonSize},
-    {"archivo_sonido", ButtonSize},
-    {"quillbox", QSize(64, 64)},
-    {"splash", QSize(420, 260)},
-};
+/// Pictures that stand on no button.
+const std::map<std::string, QSize> OtherPictures = {
+    {"carpeta", ButtonSize},        {"carpeta_abierta", ButtonSize}, {"archivo_imagen", ButtonSize},
+    {"archivo_modelo", ButtonSize}, {"archivo_sonido", ButtonSize},  {"quillbox", QSize(64, 64)},
+    {"splash", QSize(420, 260)}};
 
-class Icons : public testing::TestWithParam<Picture> {
+std::vector<std::string> PictureNames() {
+    std::vector<std::string> names;
+    for (const Command &command : Commands())
+        if (command.IsToolButton())
+            names.emplace_back(command.Button.Icon);
+    for (const auto &[name, size] : OtherPictures)
+        names.push_back(name);
+    return names;
+}
+
+QSize SizeOf(const std::string &name) {
+    const auto other = OtherPictures.find(name);
+    return other == OtherPictures.end() ? ButtonSize : other->second;
+}
+
+class Icons : public testing::TestWithParam<std::string> {
   protected:
     static void SetUpTestSuite() {
         static int argumentCount = 0;
@@ -59,7 +45,7 @@ class Icons : public testing::TestWithParam<Picture> {
     }
     static void TearDownTestSuite() { Application.reset(); }
 
-    static QString File() { return DataPath(QString("icons/%1.svg").arg(GetParam().Name)); }
+    static QString File() { return DataPath(QString("icons/%1.svg").arg(GetParam().c_str())); }
 
     static QImage Render(QSize size) {
         QImage image(size, QImage::Format_ARGB32);
@@ -85,20 +71,20 @@ double CoveredShare(const QImage &image) {
 TEST_P(Icons, AreDrawnInTheirOwnUnits) {
     QSvgRenderer renderer(File());
     ASSERT_TRUE(renderer.isValid());
-    EXPECT_EQ(renderer.defaultSize(), GetParam().Size);
-    EXPECT_EQ(renderer.viewBoxF(), QRectF(QPointF(0, 0), GetParam().Size));
+    EXPECT_EQ(renderer.defaultSize(), SizeOf(GetParam()));
+    EXPECT_EQ(renderer.viewBoxF(), QRectF(QPointF(0, 0), SizeOf(GetParam())));
 }
 
 TEST_P(Icons, ShowSomethingAtTheirOwnSize) {
-    EXPECT_GT(CoveredShare(Render(GetParam().Size)), 0.1);
+    EXPECT_GT(CoveredShare(Render(SizeOf(GetParam()))), 0.1);
 }
 
 TEST_P(Icons, ShowSomethingInTheSmallestSize) {
     EXPECT_GT(CoveredShare(Render(QSize(16, 16))), 0.1);
 }
 
-INSTANTIATE_TEST_SUITE_P(All, Icons, testing::ValuesIn(Pictures),
-                         [](const auto &test) { return std::string(test.param.Name); });
+INSTANTIATE_TEST_SUITE_P(All, Icons, testing::ValuesIn(PictureNames()),
+                         [](const auto &test) { return test.param; });
 
 } // namespace
 } // namespace Quillbox

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "documents/CommandState.h"
 
+#include "app/CommandsToSwitch.h"
 #include "fakes/FakeMainWindow.h"
 #include "fakes/FakeSystem.h"
-#include "state/Project.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -19,7 +19,7 @@ class CommandStateOfTheMainWindow : public testing::Test {
     FakeDisk Disk;
     FakeMainWindow Main{Log, Disk};
     FakeEventLoop Events{Log};
-    CommandState Commands{Main, Events};
+    CommandState Commands{Main, Events, CommandsToSwitch()};
 };
 
 TEST_F(CommandStateOfTheMainWindow, EnablesTheDocumentCommandsInOrderAndShowsThatAtOnce) {
@@ -60,8 +60,8 @@ TEST_F(CommandStateOfTheMainWindow, EnablesTheWindowMenuAlone) {
 }
 
 TEST_F(CommandStateOfTheMainWindow, SwitchesTheProjectItemsInOrder) {
-    EnableProjectMenus(Main, true);
-    EnableProjectMenus(Main, false);
+    Commands.EnableProjectMenus(true);
+    Commands.EnableProjectMenus(false);
 
     EXPECT_THAT(Log.Calls(), ElementsAre("main.EnableCommand mnuArchivo_GuardarProyecto true",
                                          "main.EnableCommand mnuArchivo_GuardarProyectoComo true",

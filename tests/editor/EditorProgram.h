@@ -2,6 +2,7 @@
 #pragma once
 
 #include "editor/EditorView.h"
+#include "editor/TextFollower.h"
 #include "fakes/FakeProgram.h"
 #include "language/QuickHelp.h"
 #include "language/SymbolLists.h"
@@ -27,8 +28,9 @@ class EditorProgram : public FakeProgram {
         Editor().Content = QString();
     }
 
-    EditorView ViewOf(int position) {
-        return {WindowOf(position), {Options, Registry, Scanner, HelpLine, Main, Events}};
+    EditorView ViewOf(int position) { return {WindowOf(position), Options, Main, Events}; }
+    TextFollower FollowerOf(int position) {
+        return {WindowOf(position), Registry, Scanner, HelpLine};
     }
     FakeEditor &Editor() { return EditorOf(1); }
     Document &Game() { return Registry.Documents[1]; }

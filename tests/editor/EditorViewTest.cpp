@@ -25,6 +25,7 @@ class ViewOfADocument : public EditorProgram {
     }
 
     EditorView View = ViewOf(1);
+    TextFollower Follower = FollowerOf(1);
 };
 
 TEST_F(ViewOfADocument, LoadsLanguageThenFixedColoursThenSettings) {
@@ -58,25 +59,25 @@ TEST_F(ViewOfADocument, AppliesTheSettingsAgainWhenTheEditorReceivesTheFocus) {
 
 TEST_F(ViewOfADocument, ShowsTheFirstPositionAsOneOne) {
     PutCaretAt(0, 0);
-    View.txtCode_KeyUp('A');
+    Follower.txtCode_KeyUp('A');
     EXPECT_EQ(Panel(StatusPanel::CaretPosition), "1 :1");
 }
 
 TEST_F(ViewOfADocument, ShowsTheCaretPositionWhenAKeyIsReleased) {
     PutCaretAt(11, 4);
-    View.txtCode_KeyUp('A');
+    Follower.txtCode_KeyUp('A');
     EXPECT_EQ(Panel(StatusPanel::CaretPosition), "12 :5");
 }
 
 TEST_F(ViewOfADocument, ShowsTheCaretPositionWhenAMouseButtonIsReleased) {
     PutCaretAt(11, 4);
-    View.txtCode_MouseUp();
+    Follower.txtCode_MouseUp();
     EXPECT_EQ(Panel(StatusPanel::CaretPosition), "12 :5");
 }
 
 TEST_F(ViewOfADocument, ShowsTheEndOfASelectionAsTheCaretPosition) {
     Editor().Selection = {{{3}, {9}}, {{1000}, {99}}};
-    View.txtCode_MouseUp();
+    Follower.txtCode_MouseUp();
     EXPECT_EQ(Panel(StatusPanel::CaretPosition), "1001 :100");
 }
 
@@ -86,30 +87,30 @@ TEST_F(ViewOfADocument, UpdatesTheQuickHelpAfterThePositionWhenAMouseButtonIsRel
     Editor().Word = QStringLiteral("say");
     Editor().WordClass = TokenClass::Keyword;
 
-    View.txtCode_MouseUp();
+    Follower.txtCode_MouseUp();
 
     EXPECT_THAT(Log.Calls(),
                 ElementsAre("window.SetPanelText 3 1 :1", "window.SetPanelText 1 say(texto)"));
 }
 
 TEST_F(ViewOfADocument, DoesNotScanWhenAMouseButtonIsReleased) {
-    View.txtCode_KeyDown();
+    Follower.txtCode_KeyDown();
     Editor().Content = QStringLiteral("process Main()\n");
 
-    View.txtCode_MouseUp();
+    Follower.txtCode_MouseUp();
 
     EXPECT_EQ(CompletedScans(), 0);
 }
 
 TEST_F(ViewOfADocument, EnablesTheModifiedPanelWhileTheEditorReportsChanges) {
     Editor().Modified = true;
-    View.txtCode_Change();
+    Follower.txtCode_Change();
     EXPECT_THAT(Log.Calls(), ElementsAre("window.EnablePanel 2 true"));
 }
 
 TEST_F(ViewOfADocument, DisablesTheModifiedPanelWhenTheChangesAreUndone) {
     Editor().Modified = false;
-    View.txtCode_Change();
+    Follower.txtCode_Change();
     EXPECT_THAT(Log.Calls(), ElementsAre("window.EnablePanel 2 false"));
 }
 
@@ -120,7 +121,7 @@ TEST_F(ViewOfADocument, RescansAfterTheModifiedPanelWhenADeclarationLineChanges)
     Editor().Modified = true;
     Log.Clear();
 
-    View.txtCode_Change();
+    Follower.txtCode_Change();
 
     EXPECT_EQ(Log.Calls().front(), "window.EnablePanel 2 true");
     EXPECT_THAT(Functions(), ElementsAre("Maine"));

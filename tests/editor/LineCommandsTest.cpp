@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/LineCommands.h"
 
-#include "editor/EditCommands.h"
 #include "fakes/FakeEditor.h"
 #include "state/LanguageDefinition.h"
 
@@ -107,16 +106,6 @@ TEST_F(LineCommand, OutdentingDeletesOneLeadingTab) {
 
     EXPECT_THAT(Log.Calls(), ElementsAre("editor.BeginUndoStep", "editor.SetCaretPos 0 0",
                                          "editor.ExecuteCommand 195", "editor.EndUndoStep"));
-}
-
-TEST_F(LineCommand, IndentingAndOutdentingAreItemsOfTheEditMenu) {
-    const auto isThere = [](const char *item, void (*command)(EditorControl &)) {
-        return std::ranges::any_of(EditCommands(), [&](const EditCommand &entry) {
-            return QString::fromUtf8(entry.Name) == QString::fromUtf8(item) && entry.Run == command;
-        });
-    };
-    EXPECT_TRUE(isThere("mnuEdicion_DesplazarDerecha", IndentLines));
-    EXPECT_TRUE(isThere("mnuEdicion_DesplazarIzquierda", OutdentLines));
 }
 
 } // namespace

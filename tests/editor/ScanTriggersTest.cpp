@@ -15,9 +15,9 @@ class ScanTrigger : public EditorProgram {
 
     /// A key goes down over the present text and comes up over `text`.
     void Type(int keyCode, const QString &text) {
-        View.txtCode_KeyDown();
+        Follower.txtCode_KeyDown();
         Editor().Content = text;
-        View.txtCode_KeyUp(keyCode);
+        Follower.txtCode_KeyUp(keyCode);
     }
     /// What Scanning is while a scan runs over lines that yield.
     std::vector<bool> ScanningDuring(const std::function<void()> &action) {
@@ -28,7 +28,7 @@ class ScanTrigger : public EditorProgram {
         return seen;
     }
 
-    EditorView View = ViewOf(1);
+    TextFollower Follower = FollowerOf(1);
 };
 
 class KeyThatRescans : public ScanTrigger, public testing::WithParamInterface<int> {};
@@ -89,23 +89,23 @@ TEST_F(ScanTrigger, KeyUpShowsThePositionThenScansThenUpdatesTheQuickHelp) {
 }
 
 TEST_F(ScanTrigger, KeyDownCountsNoLinesWhileTheHelpPageIsActive) {
-    View.txtCode_KeyDown(); // three lines
+    Follower.txtCode_KeyDown(); // three lines
     Registry.CurrentIndex = 0;
     Editor().Content = QStringLiteral("a\nb\nc\nd");
-    View.txtCode_KeyDown();
+    Follower.txtCode_KeyDown();
     Registry.CurrentIndex = 1;
 
-    View.txtCode_KeyUp(Enter);
+    Follower.txtCode_KeyUp(Enter);
 
     EXPECT_EQ(CompletedScans(), 1);
 }
 
 TEST_F(ScanTrigger, KeyUpDoesNotScanWhileTheHelpPageIsActive) {
-    View.txtCode_KeyDown();
+    Follower.txtCode_KeyDown();
     Registry.CurrentIndex = 0;
     Editor().Content = QStringLiteral("a");
 
-    View.txtCode_KeyUp(Enter);
+    Follower.txtCode_KeyUp(Enter);
 
     EXPECT_THAT(Log.Calls(), ElementsAre("window.SetPanelText 3 1 :1"));
     EXPECT_FALSE(Game().Scanning);
@@ -113,31 +113,31 @@ TEST_F(ScanTrigger, KeyUpDoesNotScanWhileTheHelpPageIsActive) {
 
 TEST_F(ScanTrigger, PaintScansTheCurrentDocument) {
     Editor().Content = QStringLiteral("process Main()");
-    View.Form_Paint();
+    Follower.Form_Paint();
     EXPECT_THAT(Functions(), ElementsAre("Main"));
 }
 
 TEST_F(ScanTrigger, EveryPaintScansAgain) {
-    View.Form_Paint();
-    View.Form_Paint();
+    Follower.Form_Paint();
+    Follower.Form_Paint();
     EXPECT_EQ(CompletedScans(), 2);
 }
 
 TEST_F(ScanTrigger, PaintSetsScanningForTheTimeOfTheScan) {
-    const auto seen = ScanningDuring([this] { View.Form_Paint(); });
+    const auto seen = ScanningDuring([this] { Follower.Form_Paint(); });
     EXPECT_THAT(seen, ElementsAre(true, true, true));
     EXPECT_FALSE(Game().Scanning);
 }
 
 TEST_F(ScanTrigger, PaintDoesNotScanWhileAScanIsPending) {
     Game().Scanning = true;
-    View.Form_Paint();
+    Follower.Form_Paint();
     EXPECT_THAT(Log.Calls(), IsEmpty());
 }
 
 TEST_F(ScanTrigger, PaintDoesNotScanWhileTheHelpPageIsActive) {
     Registry.CurrentIndex = 0;
-    View.Form_Paint();
+    Follower.Form_Paint();
     EXPECT_THAT(Log.Calls(), IsEmpty());
     EXPECT_FALSE(Game().Scanning);
 }
@@ -145,23 +145,23 @@ TEST_F(ScanTrigger, PaintDoesNotScanWhileTheHelpPageIsActive) {
 TEST_F(ScanTrigger, PaintScansTheCurrentDocumentEvenWhenAnotherWindowIsPainted) {
     Open({"/j/otro.prg"});
     EditorOf(2).Content = QStringLiteral("process Otro()");
-    View.Form_Paint();
+    Follower.Form_Paint();
     EXPECT_THAT(Functions(), ElementsAre("Otro"));
 }
 
 TEST_F(ScanTrigger, FirstPaintWithAllListsOffLeavesScanningSetForGood) {
     Options.ShowFunctions = Options.ShowLabels = Options.ShowTypes = false;
-    View.Form_Paint();
+    Follower.Form_Paint();
     EXPECT_TRUE(Game().Scanning);
 
     Options.ShowFunctions = true;
-    View.Form_Paint();
+    Follower.Form_Paint();
     EXPECT_EQ(CompletedScans(), 0);
 }
 
 TEST_F(ScanTrigger, ACompletedScanAfterSwitchingAListOnEndsThePendingScan) {
     Options.ShowFunctions = Options.ShowLabels = Options.ShowTypes = false;
-    View.Form_Paint();
+    Follower.Form_Paint();
     Options.ShowLabels = true;
 
     Scanner.ScanSymbols();
@@ -181,7 +181,7 @@ class ChangeTrigger : public ScanTrigger {
 
     void ChangeAtLine(int line) {
         Editor().Selection = {{{line}, {3}}, {{line}, {3}}};
-        View.txtCode_Change();
+        Follower.txtCode_Change();
     }
 };
 
@@ -203,13 +203,13 @@ TEST_F(ChangeTrigger, DoesNotScanOnOtherLines) {
 
 TEST_F(ChangeTrigger, LooksAtTheLineWhereTheSelectionStarts) {
     Editor().Selection = {{{2}, {0}}, {{4}, {0}}};
-    View.txtCode_Change();
+    Follower.txtCode_Change();
     EXPECT_EQ(CompletedScans(), 1);
 }
 
 TEST_F(ChangeTrigger, IgnoresTheLineWhereTheSelectionEnds) {
     Editor().Selection = {{{1}, {0}}, {{2}, {0}}};
-    View.txtCode_Change();
+    Follower.txtCode_Change();
     EXPECT_EQ(CompletedScans(), 0);
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "documents/CommandState.h"
+#include "app/CommandsToSwitch.h"
 #include "documents/DocumentCommands.h"
 #include "documents/Navigation.h"
 #include "fakes/FakeMainWindow.h"
@@ -13,9 +13,27 @@
 
 namespace Quillbox {
 
+/// The main window and the outside of the program as fakes, which share one log.
+class FakeSurfaces : public testing::Test {
+  protected:
+    CallLog Log;
+    FakeDisk Disk;
+    FakeMainWindow Main{Log, Disk};
+    FakeTabStrip Tabs{Log};
+    FakeNavigationLists Lists{Log};
+    FakeHelpViewer Help{Log};
+    FakeDialogs Questions{Log};
+    FakeEventLoop Events{Log};
+    FakeFiles Stored{Log};
+    FakeProfile Profile{Log};
+    FakeConsole Console{Log};
+    FakePrograms Launcher{Log};
+    FakeLanguageRegistration Languages{Log};
+};
+
 /// The rules around the documents, with fakes on every side. Clicks on tabs reach the navigation,
 /// as in the real program.
-class FakeProgram : public testing::Test {
+class FakeProgram : public FakeSurfaces {
   protected:
     FakeProgram() {
         Tabs.Click = [this](int tab) { Walk.tabDocuments_Click(tab); };
@@ -35,22 +53,9 @@ class FakeProgram : public testing::Test {
         Log.Clear();
     }
 
-    CallLog Log;
-    FakeDisk Disk;
-    FakeMainWindow Main{Log, Disk};
-    FakeTabStrip Tabs{Log};
-    FakeNavigationLists Lists{Log};
-    FakeHelpViewer Help{Log};
-    FakeDialogs Questions{Log};
-    FakeEventLoop Events{Log};
-    FakeFiles Stored{Log};
-    FakeProfile Profile{Log};
-    FakeConsole Console{Log};
-    FakePrograms Launcher{Log};
-    FakeLanguageRegistration Languages{Log};
     Settings Options;
     DocumentRegistry Registry;
-    CommandState Commands{Main, Events};
+    CommandState Commands{Main, Events, CommandsToSwitch()};
     Navigation Walk{Registry, Tabs, Lists, Help, Commands};
     DocumentCommands Documents{Registry, Main, Tabs, Questions, Commands};
 };

@@ -5,6 +5,8 @@
 #include "fakes/ErrorNumber.h"
 #include "fakes/FakeMediaWindow.h"
 #include "fakes/FakeProgram.h"
+#include "surfaces/CompanionPrograms.h"
+#include "surfaces/MainWindowActivation.h"
 
 #include <gmock/gmock.h>
 
@@ -29,7 +31,9 @@ class TheMediaBrowser : public FakeProgram {
     void StoreViewer() { Stored.Contents["/q/MediaView/mediaview.exe"] = "MZ"; }
 
     FakeMediaWindow Window{Log};
-    MediaBrowser Rules{{"/q/", Registry, Main, Stored, Launcher, Questions, Events}, Window};
+    CompanionPrograms Companions{"/q/", Stored, Launcher, Questions};
+    MainWindowActivation Activation{Main, Events};
+    MediaBrowser Rules{Window, Registry, Questions, Companions, Activation};
 };
 
 TEST_F(TheMediaBrowser, LetsNoPathBeInsertedIntoTheHelpPage) {
@@ -103,7 +107,7 @@ class FocusReturningDialogs : public FakeDialogs {
 
 TEST_F(TheMediaBrowser, DoesNotTakeTheFailedDriveForTheOneBeforeWhenTheMessageCloses) {
     FocusReturningDialogs boxes{Log};
-    MediaBrowser rules{{"/q/", Registry, Main, Stored, Launcher, boxes, Events}, Window};
+    MediaBrowser rules{Window, Registry, boxes, Companions, Activation};
     boxes.Closed = [&] { rules.drvUnidad_GotFocus(); };
     rules.drvUnidad_GotFocus();
     Window.FolderError = DeviceUnavailable();

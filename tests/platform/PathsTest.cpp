@@ -3,7 +3,6 @@
 
 #include "platform/TestFiles.h"
 
-
 namespace Quillbox {
 
 namespace {

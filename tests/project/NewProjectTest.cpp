@@ -17,7 +17,7 @@ TEST_F(TheNewProjectCommand, OpensWhatTheDialogMade) {
     StoreProject("Nuevo");
     InNewProject = [this] { Opened.File = "/j/nuevo.fp"; };
 
-    Projects.mnuArchivo_NuevoProyecto_Click();
+    ClickNewProject();
 
     EXPECT_EQ(Steps().front(), "frmNewProject");
     EXPECT_EQ(Main.Caption, "Quillbox v" QUILLBOX_VERSION " - <Proyecto: Nuevo>");
@@ -25,7 +25,7 @@ TEST_F(TheNewProjectCommand, OpensWhatTheDialogMade) {
 }
 
 TEST_F(TheNewProjectCommand, DoesNothingMoreWhenTheDialogIsCancelled) {
-    Projects.mnuArchivo_NuevoProyecto_Click();
+    ClickNewProject();
 
     EXPECT_THAT(Log.Calls(), ElementsAre("frmNewProject"));
 }
@@ -33,7 +33,7 @@ TEST_F(TheNewProjectCommand, DoesNothingMoreWhenTheDialogIsCancelled) {
 TEST_F(TheNewProjectCommand, ClosesTheOpenProjectFirst) {
     OpenFrom("/j/uno.fp");
 
-    Projects.mnuArchivo_NuevoProyecto_Click();
+    ClickNewProject();
 
     EXPECT_EQ(Steps().front(),
               "main.SetCaption Quillbox v" QUILLBOX_VERSION " - <Proyecto no abierto>");
@@ -47,7 +47,7 @@ TEST_F(TheNewProjectCommand, AsksOnceAboutTheOpenProjectsChanges) {
     Questions.Answers = {MessageAnswer::Yes};
     InNewProject = [this] { Opened.File = "/j/nuevo.fp"; };
 
-    Projects.mnuArchivo_NuevoProyecto_Click();
+    ClickNewProject();
 
     EXPECT_EQ(Questions.Messages.size(), 1U);
     EXPECT_EQ(Profile.WrittenFile, "/j/uno.fp");
@@ -60,7 +60,7 @@ TEST_F(TheNewProjectCommand, ReadsTheProjectAgainWhenQuestionAndDialogAreCancell
     Opened.Modified = true;
     Questions.Answers = {MessageAnswer::Cancel};
 
-    Projects.mnuArchivo_NuevoProyecto_Click();
+    ClickNewProject();
 
     EXPECT_EQ(Questions.Messages.size(), 1U);
     EXPECT_EQ(Opened.File, "/j/uno.fp");

@@ -2,6 +2,7 @@
 #include "project/ProjectInfo.h"
 
 #include "project/ProjectProgram.h"
+#include "surfaces/MainWindowActivation.h"
 
 namespace Quillbox {
 namespace {
@@ -15,7 +16,8 @@ class TheProjectInformation : public ProjectProgram {
         Opened = {"/j/juego.fp", "Juego", "Eva", "m.prg", "a.bb|b.bb", "", false};
     }
 
-    ProjectInfo Rules{{Opened, Questions, Stored, Documents, Main, Events}};
+    MainWindowActivation Activation{Main, Events};
+    ProjectInfo Rules{Opened, Questions, Sources, Activation};
 };
 
 TEST_F(TheProjectInformation, ShowsTheProject) {

@@ -3,6 +3,8 @@
 
 #include "fakes/FakeProgram.h"
 #include "project/ProjectCommands.h"
+#include "project/ProjectDisplay.h"
+#include "project/ProjectSources.h"
 #include "state/Project.h"
 
 #include <gmock/gmock.h>
@@ -27,6 +29,12 @@ class ProjectProgram : public FakeProgram {
         Projects.OpenProject(path);
         Log.Clear();
     }
+    void ClickNewProject() {
+        Projects.mnuArchivo_NuevoProyecto_Click([this] {
+            Log.Add("frmNewProject");
+            InNewProject();
+        });
+    }
     /// What the project commands ask for, without the steps inside opening a document.
     std::vector<std::string> Steps() const {
         return Log.CallsOf({"profile.", "main.SetCaption", "main.EnableCommand mnuArchivo_GuardarP",
@@ -36,10 +44,9 @@ class ProjectProgram : public FakeProgram {
 
     Project Opened;
     std::function<void()> InNewProject = [] {};
-    ProjectCommands Projects{{Opened, Main, Profile, Stored, Questions, Documents, [this] {
-                                  Log.Add("frmNewProject");
-                                  InNewProject();
-                              }}};
+    ProjectSources Sources{Stored, Questions, Documents};
+    ProjectDisplay Display{Main, Commands};
+    ProjectCommands Projects{Opened, Profile, Questions, Sources, Display};
 };
 
 } // namespace Quillbox

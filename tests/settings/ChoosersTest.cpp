@@ -151,13 +151,7 @@ TEST_F(TheChoosers, LeaveThePathsWhenThePersonCancels) {
 
 TEST_F(TheChoosers, CountAsCancelledWithoutAMessageWhenTheyFail) {
     FailingDialogs failing(Log);
-    SettingsDialog rules(Window, {"/q/",
-                                  Options,
-                                  Registry,
-                                  {Scanner, {Words.LanguageDefinition, Languages}, Lists},
-                                  failing,
-                                  Launcher,
-                                  Events});
+    SettingsDialog rules(Window, Options, failing, Effect, Companions);
     Window.Rules = &rules;
     Window.Item = -1;
     rules.Form_Load();

@@ -4,7 +4,9 @@
 #include "FakeSettingsWindow.h"
 #include "fakes/FakeProgram.h"
 #include "language/SymbolScanner.h"
+#include "settings/SettingsEffect.h"
 #include "state/WordFiles.h"
+#include "surfaces/CompanionPrograms.h"
 
 #include <gmock/gmock.h>
 
@@ -51,14 +53,9 @@ class SettingsProgram : public FakeProgram {
     LanguageWords Words;
     SymbolScanner Scanner{Registry, Options, Lists, {Words.LanguageDefinition, Languages}, Events};
     FakeSettingsWindow Window{Log};
-    SettingsDialog Rules{Window,
-                         {"/q/",
-                          Options,
-                          Registry,
-                          {Scanner, {Words.LanguageDefinition, Languages}, Lists},
-                          Questions,
-                          Launcher,
-                          Events}};
+    SettingsEffect Effect{Registry, Scanner, Events};
+    CompanionPrograms Companions{"/q/", Stored, Launcher, Questions};
+    SettingsDialog Rules{Window, Options, Questions, Effect, Companions};
 };
 
 } // namespace Quillbox

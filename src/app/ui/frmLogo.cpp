@@ -54,14 +54,14 @@ void AddText(QWidget *parent, const QString &name, const QRect &area, const QStr
 
 } // namespace
 
-frmLogo::frmLogo(std::function<void()> showMainWindow, EventLoop &eventLoop)
+frmLogo::frmLogo(std::function<void()> showMainWindow, EventLoop &events)
     : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint)
     , Splash_{std::move(showMainWindow),
               [this] {
                   show();
                   raise();
               },
-              [this] { close(); }, eventLoop} {
+              [this] { close(); }, events} {
     setObjectName(QStringLiteral("frmLogo"));
     setWindowTitle(CreditLine);
     setFixedSize(PictureSize);

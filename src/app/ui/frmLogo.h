@@ -13,7 +13,7 @@ class frmLogo final : public QWidget {
     Q_OBJECT
   public:
     /// `showMainWindow` runs on the timer's first tick. What it throws ends the program.
-    frmLogo(std::function<void()> showMainWindow, EventLoop &eventLoop);
+    frmLogo(std::function<void()> showMainWindow, EventLoop &events);
 
   private:
     Splash Splash_;

@@ -16,10 +16,8 @@
 
 namespace Quillbox {
 
-frmMain::frmMain(const CommandTable &commands, const MainWindowEvents &events,
-                 const EventBoundary &boundary)
-    : Commands_(commands)
-    , Events_(events)
+frmMain::frmMain(const MainWindowEvents &events, const EventBoundary &boundary)
+    : Events_(events)
     , Boundary_(boundary) {
     setObjectName(QStringLiteral("frmMain"));
     BuildMenus();
@@ -40,10 +38,8 @@ HelpViewer &frmMain::Help() { return *HelpWindow_; }
 
 void frmMain::SetCaption(const QString &caption) { setWindowTitle(caption); }
 
-/// A command that does not exist yet stays disabled, whatever state it would have.
 void frmMain::EnableCommand(const QString &name, bool enabled) {
-    QAction *action = MenuActions_.value(name);
-    action->setEnabled(enabled && (action->menu() || Commands_.contains(name)));
+    MenuActions_.value(name)->setEnabled(enabled);
 }
 
 void frmMain::CheckCommand(const QString &name, bool checked) {

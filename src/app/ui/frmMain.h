@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/Menus.h"
 #include "surfaces/MainWindow.h"
 
 #include <QHash>
 #include <QMainWindow>
+
+#include <functional>
 
 class QMdiSubWindow;
 class QPlainTextEdit;
@@ -19,9 +20,11 @@ class HelpViewer;
 class NavigationBar;
 class frmAyuda;
 class frmDoc;
+struct Command;
 
 /// What the rules do when a person acts on the main window.
 struct MainWindowEvents {
+    std::function<void(const Command &item)> MenuClick;
     std::function<void(const QString &tooltip)> ToolButtonClick;
     std::function<void(int tab)> TabClick;
     /// An entry of a list was clicked, or any key was let go in it.
@@ -33,13 +36,12 @@ struct MainWindowEvents {
 };
 
 /// The main window: menus, tool bar tbEstandar, tabs tabDocuments, the three lists, the documents
-/// and the log pane. It decides nothing; names and order of its commands come from tables.
+/// and the log pane. It decides nothing; its commands come from their table.
 class frmMain final : public QMainWindow, public MainWindow {
     Q_OBJECT
   public:
-    /// `commands` must outlive the window; it and `events` may still be filled until it is shown.
-    frmMain(const CommandTable &commands, const MainWindowEvents &events,
-            const EventBoundary &boundary);
+    /// `events` must outlive the window and may still be filled until it is shown.
+    frmMain(const MainWindowEvents &events, const EventBoundary &boundary);
     ~frmMain() override;
 
     TabStrip &Tabs();
@@ -56,20 +58,17 @@ class frmMain final : public QMainWindow, public MainWindow {
     void Activate() override;
     void RequestClose() override;
 
-    /// Disables what has no command yet; to be called when the command table is complete.
-    void DisableMissingCommands();
-
   protected:
     void closeEvent(QCloseEvent *event) override;
 
   private:
     void BuildMenus();
     void BuildToolbar();
+    void AddToolButton(const Command &command);
     void BuildDocumentArea();
     void BuildLog();
     void OnChildActivated(QMdiSubWindow *child);
 
-    const CommandTable &Commands_;
     QHash<QString, QAction *> MenuActions_; ///< menus and items by control name
     const MainWindowEvents &Events_;
     const EventBoundary &Boundary_;

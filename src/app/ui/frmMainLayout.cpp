@@ -41,10 +41,10 @@ QIcon IconNamed(const char *name) {
     return QIcon(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(name)));
 }
 
-QAction *AddMenuItem(QMenu &menu, const MenuEntry &entry) {
-    auto *action = menu.addAction(QString::fromUtf8(entry.Caption));
-    action->setObjectName(QString::fromUtf8(entry.Name));
-    action->setShortcut(QKeySequence::fromString(QLatin1String(entry.Shortcut)));
+QAction *AddMenuItem(QMenu &menu, const Command &command) {
+    auto *action = menu.addAction(QString::fromUtf8(command.Caption));
+    action->setObjectName(QString::fromUtf8(command.Name));
+    action->setShortcut(QKeySequence::fromString(QLatin1String(command.Key)));
     return action;
 }
 
@@ -52,18 +52,18 @@ QAction *AddMenuItem(QMenu &menu, const MenuEntry &entry) {
 
 void frmMain::BuildMenus() {
     QMenu *menu = nullptr;
-    for (const MenuEntry &entry : MenuEntries()) {
-        const QString name = QString::fromUtf8(entry.Name);
-        if (*entry.Menu == '\0') {
-            menu = menuBar()->addMenu(QString::fromUtf8(entry.Caption));
+    for (const Command &command : Commands()) {
+        const QString name = QString::fromUtf8(command.Name);
+        if (command.IsMenu()) {
+            menu = menuBar()->addMenu(QString::fromUtf8(command.Caption));
             menu->setObjectName(name);
             MenuActions_[name] = menu->menuAction();
-        } else if (name.isEmpty()) {
+        } else if (command.IsSeparator()) {
             menu->addSeparator();
-        } else {
-            MenuActions_[name] = AddMenuItem(*menu, entry);
+        } else if (command.IsMenuItem()) {
+            MenuActions_[name] = AddMenuItem(*menu, command);
             connect(MenuActions_[name], &QAction::triggered, this,
-                    [this, name] { Boundary_.Run(Commands_.at(name)); });
+                    [this, &command] { Boundary_.Run([&] { Events_.MenuClick(command); }); });
         }
     }
 }
@@ -74,36 +74,30 @@ void frmMain::BuildToolbar() {
     tbEstandar->setIconSize(ToolIconSize);
     tbEstandar->setMovable(false);
     tbEstandar->setContextMenuPolicy(Qt::PreventContextMenu);
-    for (const ToolButton &button : ToolButtons()) {
-        const QString tooltip = QString::fromUtf8(button.Tooltip);
-        if (tooltip.isEmpty()) {
+    const std::vector<Command> commands = ToolbarCommands();
+    for (std::size_t place = 0; place < commands.size(); ++place) {
+        if (place > 0 && AreInDifferentGroups(commands[place - 1], commands[place]))
             tbEstandar->addSeparator();
-            continue;
-        }
-        QAction *action =
-            tbEstandar->addAction(IconNamed(button.Icon), tooltip, this, [this, tooltip] {
-                Boundary_.Run([&] { Events_.ToolButtonClick(tooltip); });
-            });
-        action->setObjectName(QStringLiteral("tbEstandar_") + tooltip);
-        action->setToolTip(tooltip);
-        action->setData(QString::fromUtf8(button.Command));
+        AddToolButton(commands[place]);
     }
+}
+
+/// The help page's buttons wait for pages to turn to.
+void frmMain::AddToolButton(const Command &command) {
+    const QString tooltip = QString::fromUtf8(command.Button.Tooltip);
+    QAction *action =
+        tbEstandar->addAction(IconNamed(command.Button.Icon), tooltip, this, [this, tooltip] {
+            Boundary_.Run([&] { Events_.ToolButtonClick(tooltip); });
+        });
+    action->setObjectName(QStringLiteral("tbEstandar_") + tooltip);
+    action->setToolTip(tooltip);
+    action->setEnabled(command.Enabled.Needs != Needs::HelpPage);
 }
 
 void frmMain::EnableToolButtons(const QString &tooltip, bool enabled) {
     for (QAction *action : tbEstandar->actions())
         if (action->toolTip() == tooltip && !action->isSeparator())
-            action->setEnabled(enabled && Commands_.contains(action->data().toString()));
-}
-
-void frmMain::DisableMissingCommands() {
-    for (const MenuEntry &entry : MenuEntries())
-        if (*entry.Menu != '\0' && *entry.Name != '\0')
-            EnableCommand(QString::fromUtf8(entry.Name), true);
-    for (const ToolButton &button : ToolButtons())
-        EnableToolButtons(QString::fromUtf8(button.Tooltip), true);
-    for (const QString &historyButton : {QStringLiteral("Atrás"), QStringLiteral("Adelante")})
-        EnableToolButtons(historyButton, false);
+            action->setEnabled(enabled);
 }
 
 void frmMain::BuildDocumentArea() {

@@ -3,7 +3,6 @@
 
 #include "documents/ui/DocumentArea.h"
 #include "editor/ui/ScintillaEditor.h"
-#include "search/ui/FindCommands.h"
 #include "state/DocumentRegistry.h"
 #include "state/Language.h"
 #include "widgets/Controls.h"
@@ -41,15 +40,19 @@ void LeaveCtrlWToFileMenu(QMenu &frameMenu) {
 
 } // namespace
 
-frmDoc::frmDoc(const DocumentWindowParts &parts)
-    : Parts_(parts)
-    , View_(*this, Parts_.View)
+frmDoc::frmDoc(DocumentArea &area, ScintillaEditor *editor, const RulesMaker &rulesOver,
+               const EventBoundary &boundary, std::function<void()> closeRequested)
+    : Area_(area)
+    , Rules_(rulesOver(*this))
+    , Boundary_(boundary)
+    , CloseRequested_(std::move(closeRequested))
     , Client_(new QWidget(this))
-    , txtCode(new ScintillaEditor(parts.Languages, parts.Messages, Client_))
+    , txtCode(editor)
     , stbBarraEstado(new QStatusBar(Client_)) {
     setObjectName(QStringLiteral("frmDoc"));
     setWindowTitle(UntitledName);
     txtCode->setObjectName(QStringLiteral("txtCode"));
+    txtCode->setParent(Client_);
     BuildStatusBar();
     PutOverStatusBar(*Client_, *txtCode, *stbBarraEstado);
     setWidget(Client_);
@@ -57,9 +60,8 @@ frmDoc::frmDoc(const DocumentWindowParts &parts)
     setFocusProxy(txtCode);
     Client_->setFocusProxy(txtCode);
     Client_->installEventFilter(this);
-    ConnectFinding(*txtCode, parts.Find);
     ConnectEditor();
-    View_.Form_Load();
+    Rules_.View.Form_Load();
 }
 
 EditorControl &frmDoc::Editor() { return *txtCode; }
@@ -70,10 +72,10 @@ void frmDoc::SetCaption(const QString &caption) { setWindowTitle(caption); }
 
 /// Comes into view when its tab is selected, which follows at once. Seen before, it would be
 /// painted and its text scanned in a size that it loses in the next moment.
-void frmDoc::Show() { Parts_.Area.Add(this); }
+void frmDoc::Show() { Area_.Add(this); }
 
 void frmDoc::Activate() {
-    Parts_.Area.Activate(this);
+    Area_.Activate(this);
     Client_->update();
 }
 
@@ -83,7 +85,7 @@ void frmDoc::Maximize() {
 }
 
 void frmDoc::Close() {
-    Parts_.Area.Remove(this);
+    Area_.Remove(this);
     deleteLater();
 }
 
@@ -96,14 +98,14 @@ void frmDoc::EnablePanel(StatusPanel panel, bool enabled) { PanelAt(panel).setEn
 
 bool frmDoc::eventFilter(QObject *watched, QEvent *event) {
     if (watched == Client_ && event->type() == QEvent::Paint)
-        Parts_.Boundary.Run([this] { View_.Form_Paint(); });
+        Boundary_.Run([this] { Rules_.Text.Form_Paint(); });
     return QMdiSubWindow::eventFilter(watched, event);
 }
 
 /// The close box asks the same question as the menu; only Close() makes the window go.
 void frmDoc::closeEvent(QCloseEvent *event) {
     event->ignore();
-    Parts_.Boundary.Run(Parts_.CloseRequested);
+    Boundary_.Run(CloseRequested_);
 }
 
 void frmDoc::BuildStatusBar() {
@@ -128,21 +130,23 @@ void frmDoc::BuildStatusBar() {
 }
 
 void frmDoc::ConnectEditor() {
-    const auto forward = [this](auto signal, auto handler) {
+    const auto forward = [this](auto signal, auto &rules, auto handler) {
         connect(txtCode, signal, this,
-                [this, handler] { Parts_.Boundary.Run([&] { (View_.*handler)(); }); });
+                [this, &rules, handler] { Boundary_.Run([&] { (rules.*handler)(); }); });
     };
-    forward(&ScintillaEditor::TextChanged, &EditorView::txtCode_Change);
-    forward(&ScintillaEditor::ModifiedChanged, &EditorView::txtCode_ModifiedChanged);
-    forward(&ScintillaEditor::KeyDown, &EditorView::txtCode_KeyDown);
-    forward(&ScintillaEditor::MouseReleased, &EditorView::txtCode_MouseUp);
-    forward(&ScintillaEditor::ContextMenuRequested, &EditorView::txtCode_RClick);
-    forward(&ScintillaEditor::FocusReceived, &EditorView::txtCode_GotFocus);
+    TextFollower &text = Rules_.Text;
+    forward(&ScintillaEditor::TextChanged, text, &TextFollower::txtCode_Change);
+    forward(&ScintillaEditor::ModifiedChanged, text, &TextFollower::txtCode_ModifiedChanged);
+    forward(&ScintillaEditor::KeyDown, text, &TextFollower::txtCode_KeyDown);
+    forward(&ScintillaEditor::MouseReleased, text, &TextFollower::txtCode_MouseUp);
     connect(txtCode, &ScintillaEditor::KeyUp, this,
-            [this](int keyCode) { Parts_.Boundary.Run([&] { View_.txtCode_KeyUp(keyCode); }); });
+            [this, &text](int keyCode) { Boundary_.Run([&] { text.txtCode_KeyUp(keyCode); }); });
+    EditorView &view = Rules_.View;
+    forward(&ScintillaEditor::ContextMenuRequested, view, &EditorView::txtCode_RClick);
+    forward(&ScintillaEditor::FocusReceived, view, &EditorView::txtCode_GotFocus);
     txtCode->CharacterTyped = [this](int code) {
         bool used = false;
-        Parts_.Boundary.Run([&] { used = View_.txtCode_KeyPress(code); });
+        Boundary_.Run([&] { used = Rules_.View.txtCode_KeyPress(code); });
         return used;
     };
 }

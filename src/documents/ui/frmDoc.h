@@ -2,6 +2,7 @@
 #pragma once
 
 #include "editor/EditorView.h"
+#include "editor/TextFollower.h"
 #include "surfaces/DocumentWindow.h"
 
 #include <QMdiSubWindow>
@@ -14,29 +15,24 @@ class QStatusBar;
 
 namespace Quillbox {
 
-class Dialogs;
 class DocumentArea;
 class EventBoundary;
-class LanguageCatalogue;
 class ScintillaEditor;
-struct FindState;
 
-/// What every document window needs.
-struct DocumentWindowParts {
-    DocumentArea &Area;
-    EditorViewParts View;
-    const LanguageCatalogue &Languages;
-    FindState &Find;
-    Dialogs &Messages;
-    const EventBoundary &Boundary;
-    std::function<void()> CloseRequested; ///< the person wants the active document closed
+/// The rules over one document's window.
+struct DocumentRules {
+    EditorView View;
+    TextFollower Text;
 };
 
 /// The child window of one document: the editor txtCode and the status bar stbBarraEstado.
 class frmDoc final : public QMdiSubWindow, public DocumentWindow {
     Q_OBJECT
   public:
-    explicit frmDoc(const DocumentWindowParts &parts);
+    using RulesMaker = std::function<DocumentRules(DocumentWindow &)>;
+    /// Takes `editor` over. `closeRequested`: the person wants the active document closed.
+    frmDoc(DocumentArea &area, ScintillaEditor *editor, const RulesMaker &rulesOver,
+           const EventBoundary &boundary, std::function<void()> closeRequested);
 
     EditorControl &Editor() override;
     QString Caption() const override;
@@ -59,8 +55,10 @@ class frmDoc final : public QMdiSubWindow, public DocumentWindow {
     void ConnectEditor();
     QLabel &PanelAt(StatusPanel panel);
 
-    DocumentWindowParts Parts_;
-    EditorView View_;
+    DocumentArea &Area_;
+    DocumentRules Rules_;
+    const EventBoundary &Boundary_;
+    std::function<void()> CloseRequested_;
     QWidget *Client_;
     ScintillaEditor *txtCode;
     QStatusBar *stbBarraEstado;

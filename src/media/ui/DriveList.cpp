@@ -18,9 +18,9 @@ QString CaptionOf(const Drive &drive) {
 
 } // namespace
 
-DriveList::DriveList(Folders &disks, QWidget *parent)
+DriveList::DriveList(Folders &folders, QWidget *parent)
     : QComboBox(parent)
-    , Disks_(disks) {
+    , Folders_(folders) {
     setObjectName(QStringLiteral("drvUnidad"));
     setToolTip(QStringLiteral("Unidades"));
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
@@ -63,7 +63,7 @@ void DriveList::Choose() {
 
 void DriveList::Fill() {
     const QSignalBlocker quiet(this);
-    Drives_ = Disks_.Drives();
+    Drives_ = Folders_.Drives();
     clear();
     for (const Drive &drive : Drives_)
         addItem(CaptionOf(drive), drive.Path);

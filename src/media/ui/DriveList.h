@@ -11,7 +11,7 @@ namespace Quillbox {
 class DriveList final : public QComboBox {
     Q_OBJECT
   public:
-    DriveList(Folders &disks, QWidget *parent);
+    DriveList(Folders &folders, QWidget *parent);
 
     /// Empty without a selection.
     QString Selected() const { return currentData().toString(); }
@@ -36,7 +36,7 @@ class DriveList final : public QComboBox {
 
     void Choose();
 
-    Folders &Disks_;
+    Folders &Folders_;
     std::vector<Drive> Drives_;
     QString SelectedBefore_; ///< the last one chosen or selected, though it may be gone
 };

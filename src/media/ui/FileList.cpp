@@ -50,9 +50,9 @@ class FileNames final : public QStringListModel {
 
 } // namespace
 
-FileList::FileList(Folders &disks, QWidget *parent)
+FileList::FileList(Folders &folders, QWidget *parent)
     : QListView(parent)
-    , Disks_(disks)
+    , Folders_(folders)
     , Files_(new FileNames(this)) {
     setObjectName(QStringLiteral("filArchivos"));
     setToolTip(QStringLiteral("Lista de archivos"));
@@ -66,7 +66,7 @@ FileList::FileList(Folders &disks, QWidget *parent)
 void FileList::SetPath(const QString &path) {
     const QString selected = path == Path_ ? SelectedFile() : QString();
     Path_ = path;
-    const FolderNames found = Disks_.Files(path);
+    const FolderNames found = Folders_.Files(path);
     const QStringList files = SortedForPeople(NamesMatching(found.Names, MediaPatterns));
     Notice_ = files.isEmpty() ? NoticeOf(found.State) : QString();
     setAccessibleDescription(Notice_);

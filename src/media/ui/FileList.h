@@ -13,7 +13,7 @@ namespace Quillbox {
 class FileList final : public QListView {
     Q_OBJECT
   public:
-    FileList(Folders &disks, QWidget *parent);
+    FileList(Folders &folders, QWidget *parent);
 
     QString Path() const { return Path_; }
     /// The same path again looks for new files and keeps the selection.
@@ -36,7 +36,7 @@ class FileList final : public QListView {
   private:
     void Select(const QString &file);
 
-    Folders &Disks_;
+    Folders &Folders_;
     QString Path_;
     QString Notice_;
     QStringListModel *Files_;

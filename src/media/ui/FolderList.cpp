@@ -49,9 +49,9 @@ QStandardItem *NewItem(const FolderEntry &entry) {
 
 } // namespace
 
-FolderList::FolderList(Folders &disks, QWidget *parent)
+FolderList::FolderList(Folders &folders, QWidget *parent)
     : QListView(parent)
-    , Disks_(disks) {
+    , Folders_(folders) {
     setObjectName(QStringLiteral("dirCarpetas"));
     setToolTip(QStringLiteral("Lista de carpetas"));
     setModel(&Entries_);
@@ -97,7 +97,7 @@ void FolderList::mouseDoubleClickEvent(QMouseEvent *event) {
 void FolderList::Fill() {
     QList<QStandardItem *> items;
     for (const FolderEntry &entry :
-         FolderEntriesOf(Path_, SortedForPeople(Disks_.SubFolders(Path_).Names)))
+         FolderEntriesOf(Path_, SortedForPeople(Folders_.SubFolders(Path_).Names)))
         items.append(NewItem(entry));
     Entries_.clear();
     Entries_.invisibleRootItem()->appendRows(items);

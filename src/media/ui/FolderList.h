@@ -15,7 +15,7 @@ struct FolderEntry;
 class FolderList final : public QListView {
     Q_OBJECT
   public:
-    FolderList(Folders &disks, QWidget *parent);
+    FolderList(Folders &folders, QWidget *parent);
 
     QString Path() const { return Path_; }
     /// A folder that cannot be read is opened, too; it just has no sub-folders to show.
@@ -36,7 +36,7 @@ class FolderList final : public QListView {
     void Select(const QString &path);
     void OpenFolderAt(const QModelIndex &index);
 
-    Folders &Disks_;
+    Folders &Folders_;
     QString Path_;
     QStandardItemModel Entries_;
 };

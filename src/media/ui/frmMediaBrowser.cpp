@@ -42,12 +42,12 @@ QVBoxLayout &AddColumn(QSplitter &splitter) {
 
 } // namespace
 
-frmMediaBrowser::frmMediaBrowser(const MediaBrowserParts &parts, Folders &disks,
-                                 const EventBoundary &boundary, QWidget *owner)
+frmMediaBrowser::frmMediaBrowser(const RulesMaker &rulesOver, MainWindow &mainWindow,
+                                 Folders &folders, const EventBoundary &boundary, QWidget *owner)
     : QDialog(owner)
-    , Rules_(parts, *this)
-    , Main_(parts.Main)
-    , Disks_(disks)
+    , Rules_(rulesOver(*this))
+    , MainWindow_(mainWindow)
+    , Folders_(folders)
     , Boundary_(boundary) {
     setObjectName(QStringLiteral("frmMediaBrowser"));
     setWindowTitle(QStringLiteral("Explorador Media"));
@@ -61,15 +61,15 @@ frmMediaBrowser::frmMediaBrowser(const MediaBrowserParts &parts, Folders &disks,
     AddShortcuts();
     ConnectLists();
     resize(InitialSize);
-    dirCarpetas->SetPath(Disks_.CurrentFolder());
+    dirCarpetas->SetPath(Folders_.CurrentFolder());
     dirCarpetas->setFocus();
     Run(&MediaBrowser::UpdateInsertPathButton);
 }
 
 void frmMediaBrowser::BuildLists(QSplitter &splitter) {
-    drvUnidad = new DriveList(Disks_, this);
-    dirCarpetas = new FolderList(Disks_, this);
-    filArchivos = new FileList(Disks_, this);
+    drvUnidad = new DriveList(Folders_, this);
+    dirCarpetas = new FolderList(Folders_, this);
+    filArchivos = new FileList(Folders_, this);
     QVBoxLayout &left = AddColumn(splitter);
     AddLabelled(left, QStringLiteral("&Unidad:"), *drvUnidad, 0);
     AddLabelled(left, QStringLiteral("&Carpetas:"), *dirCarpetas, 1);
@@ -138,7 +138,7 @@ QString frmMediaBrowser::FolderPath() const { return dirCarpetas->Path(); }
 
 void frmMediaBrowser::SetFolderPath(const QString &path) {
     if (drvUnidad->IsDrive(path))
-        Disks_.RequireDrive(path);
+        Folders_.RequireDrive(path);
     dirCarpetas->SetPath(path);
 }
 
@@ -153,8 +153,8 @@ void frmMediaBrowser::EnableInsertPath(bool enabled) { cmdInsertPath->setEnabled
 PictureProblem frmMediaBrowser::ShowPicture(const QString &path) {
     const PictureFile picture = ReadPictureFile(path);
     if (picture.Problem == PictureProblem::None) {
-        auto *preview = new frmMuestraImagenes({picture.Image, QFileInfo(path).fileName()}, Main_,
-                                               Boundary_, this);
+        auto *preview = new frmMuestraImagenes({picture.Image, QFileInfo(path).fileName()},
+                                               MainWindow_, Boundary_, this);
         connect(preview, &frmMuestraImagenes::LeftForOwner, this, &QWidget::activateWindow);
         preview->show();
         preview->activateWindow();

@@ -6,6 +6,8 @@
 
 #include <QDialog>
 
+#include <functional>
+
 class QPushButton;
 class QSplitter;
 class QVBoxLayout;
@@ -17,13 +19,15 @@ class EventBoundary;
 class FileList;
 class FolderList;
 class Folders;
+class MainWindow;
 
 /// The media browser. Once made it stays; closing it in any way only hides it.
 class frmMediaBrowser final : public QDialog, public MediaBrowserWindow {
     Q_OBJECT
   public:
-    frmMediaBrowser(const MediaBrowserParts &parts, Folders &disks, const EventBoundary &boundary,
-                    QWidget *owner);
+    using RulesMaker = std::function<MediaBrowser(MediaBrowserWindow &)>;
+    frmMediaBrowser(const RulesMaker &rulesOver, MainWindow &mainWindow, Folders &folders,
+                    const EventBoundary &boundary, QWidget *owner);
 
     void ComeForward();
 
@@ -52,8 +56,8 @@ class frmMediaBrowser final : public QDialog, public MediaBrowserWindow {
     void Run(void (MediaBrowser::*step)());
 
     MediaBrowser Rules_;
-    MainWindow &Main_;
-    Folders &Disks_;
+    MainWindow &MainWindow_;
+    Folders &Folders_;
     const EventBoundary &Boundary_;
     DriveList *drvUnidad = nullptr;
     FolderList *dirCarpetas = nullptr;

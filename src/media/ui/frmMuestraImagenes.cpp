@@ -50,10 +50,10 @@ QPixmap PixmapOf(const QImage &image, QSize shown, double ratio) {
 
 } // namespace
 
-frmMuestraImagenes::frmMuestraImagenes(const NamedPicture &picture, MainWindow &main,
+frmMuestraImagenes::frmMuestraImagenes(const NamedPicture &picture, MainWindow &mainWindow,
                                        const EventBoundary &boundary, QWidget *owner)
     : QWidget(owner, Qt::Dialog)
-    , Rules_(*this, main)
+    , Rules_(*this, mainWindow)
     , Boundary_(boundary)
     , imgMuestra(new QLabel(this))
     , stbStatusBar(new QStatusBar(this)) {

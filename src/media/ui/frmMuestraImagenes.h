@@ -25,8 +25,8 @@ struct NamedPicture {
 class frmMuestraImagenes final : public QWidget, public ImagePreviewWindow {
     Q_OBJECT
   public:
-    frmMuestraImagenes(const NamedPicture &picture, MainWindow &main, const EventBoundary &boundary,
-                       QWidget *owner);
+    frmMuestraImagenes(const NamedPicture &picture, MainWindow &mainWindow,
+                       const EventBoundary &boundary, QWidget *owner);
     ~frmMuestraImagenes() override;
 
     void ShowStatusBar(bool shown) override;

@@ -24,10 +24,9 @@ constexpr int InitialWidth = 480;
 
 } // namespace
 
-frmSettings::frmSettings(const SettingsDialogParts &parts, const EventBoundary &boundary,
-                         QWidget *owner)
+frmSettings::frmSettings(const RulesMaker &rulesOver, const EventBoundary &boundary, QWidget *owner)
     : QDialog(owner)
-    , Rules_(*this, parts)
+    , Rules_(rulesOver(*this))
     , Boundary_(boundary)
     , Folders_(new FoldersTab)
     , Editor_(new EditorTab)

@@ -7,6 +7,8 @@
 #include <QDialog>
 #include <QPointer>
 
+#include <functional>
+
 class QCheckBox;
 class QLayout;
 class QLineEdit;
@@ -23,7 +25,8 @@ class FoldersTab;
 class frmSettings final : public QDialog, public SettingsWindow {
     Q_OBJECT
   public:
-    frmSettings(const SettingsDialogParts &parts, const EventBoundary &boundary, QWidget *owner);
+    using RulesMaker = std::function<SettingsDialog(SettingsWindow &)>;
+    frmSettings(const RulesMaker &rulesOver, const EventBoundary &boundary, QWidget *owner);
 
     /// Shows it modally, again after each "Aplicar", until the person closes it.
     void ShowUntilClosed();

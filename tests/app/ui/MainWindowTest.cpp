@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/Menus.h"
 #include "app/Toolbar.h"
 #include "base/Version.h"
 #include "fakes/UiProgram.h"
@@ -27,6 +26,9 @@ class MainWindowTest : public UiProgram {
                 return action;
         return nullptr;
     }
+    static QString DescriptionOf(const QString &name, const QString &caption, const QString &keys) {
+        return QStringList{name, caption, keys}.join(u'|');
+    }
     QStringList MenuTitles() {
         QStringList titles;
         for (const QAction *action : Main().menuBar()->actions())
@@ -48,40 +50,80 @@ TEST_F(MainWindowTest, ShowsTheSixMenusInTheirOrder) {
                                          "&Ventana", "A&yuda"}));
 }
 
-TEST_F(MainWindowTest, CarriesTheControlNameOfEveryMenuItem) {
-    for (const MenuEntry &entry : MenuEntries()) {
-        if (*entry.Menu == '\0' || *entry.Name == '\0')
-            continue;
-        EXPECT_NE(Find<QAction>(QString::fromUtf8(entry.Name)), nullptr) << entry.Name;
+/// The table, menu by menu, as a person sees it.
+TEST_F(MainWindowTest, ShowsEveryMenuWithItsItemsAndKeysInTheOrderOfTheTable) {
+    QStringList expected;
+    for (const Command &command : Commands()) {
+        if (command.IsSeparator())
+            expected.append(QStringLiteral("-"));
+        else if (command.IsMenu() || command.IsMenuItem())
+            expected.append(DescriptionOf(QString::fromUtf8(command.Name),
+                                          QString::fromUtf8(command.Caption),
+                                          QLatin1String(command.Key)));
     }
+    QStringList shown;
+    for (const QAction *title : Main().menuBar()->actions()) {
+        shown.append(DescriptionOf(title->menu()->objectName(), title->text(), {}));
+        for (const QAction *item : title->menu()->actions())
+            shown.append(item->isSeparator() ? QStringLiteral("-")
+                                             : DescriptionOf(item->objectName(), item->text(),
+                                                             item->shortcut().toString(
+                                                                 QKeySequence::PortableText)));
+    }
+    EXPECT_EQ(shown, expected);
 }
 
-TEST_F(MainWindowTest, HasAToolButtonWithPictureForEveryTooltip) {
-    for (const ToolButton &button : ToolButtons()) {
-        if (*button.Tooltip == '\0')
-            continue;
-        const QAction *action = ToolButtonWith(QString::fromUtf8(button.Tooltip));
-        ASSERT_NE(action, nullptr) << button.Tooltip;
-        EXPECT_FALSE(action->icon().pixmap(24, 24).isNull()) << button.Tooltip;
+TEST_F(MainWindowTest, ShowsEveryToolButtonInItsPlaceWithItsPictureAndGroupsThem) {
+    const QList<QAction *> shown = Find<QToolBar>(QStringLiteral("tbEstandar"))->actions();
+    qsizetype next = 0;
+    int group = 0;
+    for (const Command &command : ToolbarCommands()) {
+        const QString tooltip = QString::fromUtf8(command.Button.Tooltip);
+        if (std::exchange(group, command.Button.Place / 10) != command.Button.Place / 10 &&
+            next > 0) {
+            ASSERT_TRUE(shown[next++]->isSeparator()) << command.Button.Tooltip;
+        }
+        ASSERT_LT(next, shown.size()) << command.Button.Tooltip;
+        const QAction *button = shown[next++];
+        EXPECT_EQ(button->toolTip(), tooltip);
+        EXPECT_EQ(button->objectName(), QStringLiteral("tbEstandar_") + tooltip);
+        EXPECT_FALSE(button->icon().pixmap(24, 24).isNull()) << command.Button.Tooltip;
     }
+    EXPECT_EQ(next, shown.size());
 }
 
-/// Wait for a project.
-const QStringList ProjectItems = {QStringLiteral("mnuArchivo_GuardarProyecto"),
-                                  QStringLiteral("mnuArchivo_GuardarProyectoComo"),
-                                  QStringLiteral("mnuArchivo_CerrarProyecto")};
+TEST_F(MainWindowTest, EnablesAToolButtonTogetherWithItsMenuItem) {
+    const auto expectSameStates = [this](const char *where) {
+        for (const Command &command : ToolbarCommands()) {
+            if (!command.IsMenuItem())
+                continue;
+            const auto *item = Find<QAction>(QString::fromUtf8(command.Name));
+            const auto *menu = qobject_cast<QMenu *>(item->associatedObjects().value(0));
+            const bool canBeChosen = item->isEnabled() && menu->menuAction()->isEnabled();
+            EXPECT_EQ(ToolButtonWith(QString::fromUtf8(command.Button.Tooltip))->isEnabled(),
+                      canBeChosen)
+                << command.Name << ' ' << where;
+        }
+    };
+    expectSameStates("on the help page");
+    Trigger(QStringLiteral("mnuArchivo_Nuevo"));
+    expectSameStates("in a document");
+}
+
+TEST_F(MainWindowTest, StartsWithTheHelpPagesButtonsOff) {
+    for (const QString &tooltip : {QStringLiteral("Atrás"), QStringLiteral("Adelante")})
+        EXPECT_FALSE(ToolButtonWith(tooltip)->isEnabled()) << qPrintable(tooltip);
+}
 
 TEST_F(MainWindowTest, HasACommandBehindEveryItemOfItsMenus) {
     Write(QStringLiteral("a.prg"), "Print 1\r\n");
     Open(QStringLiteral("a.prg"));
-    for (const MenuEntry &entry : MenuEntries()) {
-        const QString name = QString::fromUtf8(entry.Name);
-        if (name.isEmpty() || *entry.Menu == '\0' || ProjectItems.contains(name))
-            continue;
-        const auto *action = Find<QAction>(name);
-        ASSERT_NE(action, nullptr) << entry.Name;
-        EXPECT_TRUE(action->isEnabled()) << entry.Name;
-    }
+    for (const Command &command : Commands())
+        if (command.IsMenuItem()) {
+            const auto *action = Find<QAction>(QString::fromUtf8(command.Name));
+            ASSERT_NE(action, nullptr) << command.Name;
+            EXPECT_EQ(action->isEnabled(), command.Enabled.Needs != Needs::Project) << command.Name;
+        }
 }
 
 TEST_F(MainWindowTest, EnablesTheDocumentCommandsWithADocumentAndDisablesThemOnTheHelpPage) {

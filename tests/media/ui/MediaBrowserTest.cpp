@@ -44,9 +44,12 @@ class MediaBrowserWindowTest : public UiProgram {
     MediaBrowserWindowTest() {
         Start();
         Questions.Messages.clear(); // those about the word files
-        Browser =
-            new frmMediaBrowser({AppDir(), Registry(), Main(), Stored, Launcher, Questions, Events},
-                                Disk, Boundary, &Main());
+        Activation.emplace(Main(), Events);
+        Browser = new frmMediaBrowser(
+            [this](MediaBrowserWindow &window) {
+                return MediaBrowser(window, Registry(), Questions, Companions, *Activation);
+            },
+            Main(), Disk, Boundary, &Main());
         ComeForward();
     }
 
@@ -92,6 +95,8 @@ class MediaBrowserWindowTest : public UiProgram {
 
     FakeFolders Disk = DiskOfAGame();
     EventBoundary Boundary{Questions};
+    CompanionPrograms Companions{AppDir(), Stored, Launcher, Questions};
+    std::optional<MainWindowActivation> Activation;
     frmMediaBrowser *Browser = nullptr; ///< the main window owns it
 };
 

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "editor/EditCommands.h"
-
-#include "fakes/FakeEditor.h"
+#include "RulesProgram.h"
+#include "app/Commands.h"
+#include "editor/LineCommands.h"
 #include "fakes/TestRow.h"
-
-#include <gmock/gmock.h>
 
 #include <algorithm>
 
@@ -28,14 +26,35 @@ class ChoosyEditor : public FakeEditor {
     bool CanRedo() const override { return Allowed.contains("Redo"); }
 };
 
-void RunCommand(const char *name, EditorControl &editor) {
-    const auto found =
-        std::ranges::find(EditCommands(), QString::fromUtf8(name), [](const EditCommand &command) {
-            return QString::fromUtf8(command.Name);
-        });
-    ASSERT_NE(found, EditCommands().end()) << name;
-    found->Run(editor);
-}
+class WindowWithChoosyEditor : public FakeDocumentWindow {
+  public:
+    WindowWithChoosyEditor(CallLog &log, FakeDisk &disk)
+        : FakeDocumentWindow(log, disk)
+        , Choosy(log, disk) {}
+
+    ChoosyEditor Choosy;
+    EditorControl &Editor() override { return Choosy; }
+};
+
+/// The Edit menu over one document, the current one.
+class EditMenu : public RulesProgram {
+  protected:
+    EditMenu() {
+        On.Registry.Documents[1].Window = &Window;
+        On.Registry.DocumentCount = 1;
+        On.Registry.CurrentIndex = 1;
+    }
+
+    void RunCommand(const std::string &name) {
+        const auto found = std::ranges::find(
+            Commands(), name, [](const Command &command) { return std::string(command.Name); });
+        ASSERT_NE(found, Commands().end()) << name;
+        found->Run(On);
+    }
+
+    WindowWithChoosyEditor Window{Log, Disk};
+    ChoosyEditor &Editor = Window.Choosy;
+};
 
 struct Operation : TestRow {
     const char *Item;
@@ -43,17 +62,12 @@ struct Operation : TestRow {
 
 const std::set<std::string> AllOperations = {"Undo", "Redo", "Cut", "Copy", "Paste"};
 
-class ClipboardAndUndoCommand : public testing::TestWithParam<Operation> {
-  protected:
-    CallLog Log;
-    FakeDisk Disk;
-    ChoosyEditor Editor{Log, Disk};
-};
+class ClipboardAndUndoCommand : public EditMenu, public testing::WithParamInterface<Operation> {};
 
 TEST_P(ClipboardAndUndoCommand, RunsWhenTheEditorSaysThatItCan) {
     Editor.Allowed = {GetParam().Name};
 
-    RunCommand(GetParam().Item, Editor);
+    RunCommand(GetParam().Item);
 
     EXPECT_THAT(Log.Calls(), ElementsAre(std::string("editor.") + GetParam().Name));
 }
@@ -62,7 +76,7 @@ TEST_P(ClipboardAndUndoCommand, DoesNothingWhenTheEditorSaysThatItCannot) {
     Editor.Allowed = AllOperations;
     Editor.Allowed.erase(GetParam().Name);
 
-    RunCommand(GetParam().Item, Editor);
+    RunCommand(GetParam().Item);
 
     EXPECT_THAT(Log.Calls(), IsEmpty());
 }
@@ -75,17 +89,12 @@ INSTANTIATE_TEST_SUITE_P(EditMenu, ClipboardAndUndoCommand,
                                          Operation{"Paste", "mnuEdicion_Pegar"}),
                          RowName);
 
-class DeleteCommand : public testing::Test {
-  protected:
-    CallLog Log;
-    FakeDisk Disk;
-    FakeEditor Editor{Log, Disk};
-};
+class DeleteCommand : public EditMenu {};
 
 TEST_F(DeleteCommand, RemovesTheSelection) {
     Editor.Selection = {{{2}, {0}}, {{2}, {1}}};
 
-    RunCommand("mnuEdición_Eliminar", Editor);
+    RunCommand("mnuEdición_Eliminar");
 
     EXPECT_THAT(Log.Calls(), ElementsAre("editor.DeleteSel"));
 }
@@ -93,7 +102,7 @@ TEST_F(DeleteCommand, RemovesTheSelection) {
 TEST_F(DeleteCommand, DoesNothingWithAnEmptySelection) {
     Editor.Selection = {{{2}, {1}}, {{2}, {1}}};
 
-    RunCommand("mnuEdición_Eliminar", Editor);
+    RunCommand("mnuEdición_Eliminar");
 
     EXPECT_THAT(Log.Calls(), IsEmpty());
 }
@@ -103,17 +112,14 @@ struct Numbered : TestRow {
     int Number;
 };
 
-class NumberedCommand : public testing::TestWithParam<Numbered> {};
+class NumberedCommand : public EditMenu, public testing::WithParamInterface<Numbered> {};
 
 TEST_P(NumberedCommand, IsHandedToTheEditorByItsNumber) {
-    CallLog log;
-    FakeDisk disk;
-    FakeEditor editor(log, disk);
-    editor.Possible = false; // a numbered command asks nothing beforehand
+    Editor.Possible = false; // a numbered command asks nothing beforehand
 
-    RunCommand(GetParam().Item, editor);
+    RunCommand(GetParam().Item);
 
-    EXPECT_THAT(log.Calls(),
+    EXPECT_THAT(Log.Calls(),
                 ElementsAre("editor.ExecuteCommand " + std::to_string(GetParam().Number)));
 }
 
@@ -134,6 +140,25 @@ INSTANTIATE_TEST_SUITE_P(
                     Numbered{"IrACorchete", "mnuEdicion_IrACorchete", 302},
                     Numbered{"SeleccionarSiguiente", "mnuEdicion_SeleccionarSiguiente", 303}),
     RowName);
+
+class LineCommandOfTheEditMenu : public EditMenu {
+  protected:
+    std::vector<std::string> CallsOf(const std::function<void()> &command) {
+        Editor.Content = "\tx\ny";
+        Editor.Selection = {{{0}, {0}}, {{1}, {1}}};
+        Log.Clear();
+        command();
+        return Log.Calls();
+    }
+};
+
+TEST_F(LineCommandOfTheEditMenu, IndentsAndOutdents) {
+    const auto indenting = CallsOf([this] { IndentLines(Editor); });
+    const auto outdenting = CallsOf([this] { OutdentLines(Editor); });
+    ASSERT_NE(indenting, outdenting);
+    EXPECT_EQ(CallsOf([this] { RunCommand("mnuEdicion_DesplazarDerecha"); }), indenting);
+    EXPECT_EQ(CallsOf([this] { RunCommand("mnuEdicion_DesplazarIzquierda"); }), outdenting);
+}
 
 } // namespace
 } // namespace Quillbox
