@@ -450,8 +450,28 @@ Do you want to delete it anyway?</source>
         <translation>Origen del papel:</translation>
     </message>
     <message>
+        <source>mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source>pt</source>
+        <translation> pt</translation>
+    </message>
+    <message>
         <source>in</source>
-        <translation>pulg.</translation>
+        <translation> pulg.</translation>
+    </message>
+    <message>
+        <source>P̸</source>
+        <translation> P̸</translation>
+    </message>
+    <message>
+        <source>DD</source>
+        <translation> DD</translation>
+    </message>
+    <message>
+        <source>CC</source>
+        <translation> CC</translation>
     </message>
     <message>
         <source>Inches (in)</source>

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "project/NewProject.h"
 
-#include "documents/FileNames.h"
 #include "project/ProjectFile.h"
 #include "state/Language.h"
 #include "state/Project.h"

@@ -5,8 +5,6 @@
 #include "base/Utf8.h"
 #include "search/ExpressionProblem.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
 
 namespace Quillbox {
