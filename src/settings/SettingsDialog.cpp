@@ -8,6 +8,8 @@
 #include "state/settings.h"
 #include "surfaces/CompanionPrograms.h"
 
+#include <algorithm>
+
 namespace Quillbox {
 namespace {
 
@@ -48,42 +50,44 @@ void SettingsDialog::Form_Load() {
 }
 
 void SettingsDialog::ShowSettings() {
-    const Settings &settings = Settings_;
-    Window_.SetText(SettingsText::CompilerPath, settings.FenixCPath);
-    Window_.SetText(SettingsText::HelpPath, settings.HelpPath);
-    Window_.SetChecked(SettingsCheck::ColorSyntax, settings.ColorSyntax);
-    Window_.SetText(SettingsText::TabSize, QString::number(settings.TabSize));
-    Window_.SetChecked(SettingsCheck::LineNumbers, settings.LineNumbers);
-    Window_.SetChecked(SettingsCheck::Functions, settings.ShowFunctions);
-    Window_.SetChecked(SettingsCheck::Labels, settings.ShowLabels);
-    Window_.SetChecked(SettingsCheck::Types, settings.ShowTypes);
-    Window_.SetChecked(SettingsCheck::QuickHelp, settings.ShowQuickHelp);
-    Window_.SetTabSpinner(settings.TabSize);
+    Window_.SetText(SettingsText::CompilerPath, Settings_.FenixCPath);
+    Window_.SetText(SettingsText::HelpPath, Settings_.HelpPath);
+    ShowCheckBoxes({SettingsFrame::FontAndColors});
+    Window_.SetText(SettingsText::TabSize, QString::number(Settings_.TabSize));
+    ShowCheckBoxes({SettingsFrame::Others, SettingsFrame::Symbols, SettingsFrame::Help});
+    Window_.SetTabSpinner(Settings_.TabSize);
     Window_.SelectItem(0);
     ShowItemColor();
-    Font_ = {settings.Font, static_cast<double>(settings.FontSize)};
+    Font_ = {Settings_.Font, static_cast<double>(Settings_.FontSize)};
     ShowFontSample();
+}
+
+void SettingsDialog::ShowCheckBoxes(std::initializer_list<SettingsFrame> frames) {
+    for (const SettingsCheckBox &box : SettingsCheckBoxes())
+        if (std::ranges::find(frames, box.Frame) != frames.end())
+            Window_.SetChecked(QString::fromUtf8(box.Name), Settings_.*box.Field);
 }
 
 /// The labels' and types' boxes are stored after the scan, which therefore still goes by their
 /// previous values; the next scan goes by the new ones.
 void SettingsDialog::StoreSettings() {
-    Settings &settings = Settings_;
-    settings.FenixCPath = Window_.Text(SettingsText::CompilerPath);
-    settings.HelpPath = Window_.Text(SettingsText::HelpPath);
-    settings.MainPath = ToolsFolderOf(settings.FenixCPath);
-    settings.ColorSyntax = Window_.IsChecked(SettingsCheck::ColorSyntax);
-    settings.TabSize = ToByte(TabSizeNumber());
-    settings.LineNumbers = Window_.IsChecked(SettingsCheck::LineNumbers);
-    settings.ShowQuickHelp = Window_.IsChecked(SettingsCheck::QuickHelp);
-    settings.ShowFunctions = Window_.IsChecked(SettingsCheck::Functions);
+    Settings_.FenixCPath = Window_.Text(SettingsText::CompilerPath);
+    Settings_.HelpPath = Window_.Text(SettingsText::HelpPath);
+    Settings_.MainPath = ToolsFolderOf(Settings_.FenixCPath);
+    Settings_.TabSize = ToByte(TabSizeNumber());
+    StoreCheckBoxes(Storing::BeforeScan);
     Effect_.RefreshSymbols();
-    settings.ShowLabels = Window_.IsChecked(SettingsCheck::Labels);
-    settings.ShowTypes = Window_.IsChecked(SettingsCheck::Types);
-    SaveColors(ItemAttributes_, settings);
-    SaveStyles(ItemAttributes_, settings);
-    settings.Font = Font_.Name;
-    settings.FontSize = ToByte(Font_.Size);
+    StoreCheckBoxes(Storing::AfterScan);
+    SaveColors(ItemAttributes_, Settings_);
+    SaveStyles(ItemAttributes_, Settings_);
+    Settings_.Font = Font_.Name;
+    Settings_.FontSize = ToByte(Font_.Size);
+}
+
+void SettingsDialog::StoreCheckBoxes(Storing when) {
+    for (const SettingsCheckBox &box : SettingsCheckBoxes())
+        if (box.Stored == when)
+            Settings_.*box.Field = Window_.IsChecked(QString::fromUtf8(box.Name));
 }
 
 void SettingsDialog::lstItems_Click() {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "settings/ItemAttributes.h"
+#include "settings/SettingsCheckBox.h"
 #include "surfaces/Dialogs.h"
 
 namespace Quillbox {
@@ -42,7 +43,9 @@ class SettingsDialog {
 
   private:
     void ShowSettings();
+    void ShowCheckBoxes(std::initializer_list<SettingsFrame> frames);
     void StoreSettings();
+    void StoreCheckBoxes(Storing when);
     void ShowItemColor();
     void ShowItemStyle();
     void ShowFontSample();

@@ -12,9 +12,6 @@ struct FontChoice;
 /// The text boxes txtCompilerPath, txtHelpPath and txtTabSize.
 enum class SettingsText { CompilerPath, HelpPath, TabSize };
 
-/// The check boxes chkColorSyntax, chkLineNumbers, chkQuickHelp, chkFunciones, chkLabels, chkTypes.
-enum class SettingsCheck { ColorSyntax, LineNumbers, QuickHelp, Functions, Labels, Types };
-
 /// The settings dialog as its rules see it. What they set raises the same event as if the person
 /// had done it, before the call returns; a value that is there already raises none.
 class SettingsWindow {
@@ -23,8 +20,9 @@ class SettingsWindow {
 
     virtual QString Text(SettingsText box) const = 0;
     virtual void SetText(SettingsText box, const QString &text) = 0;
-    virtual bool IsChecked(SettingsCheck box) const = 0;
-    virtual void SetChecked(SettingsCheck box, bool checked) = 0;
+    /// Check boxes are known by their control names.
+    virtual bool IsChecked(const QString &box) const = 0;
+    virtual void SetChecked(const QString &box, bool checked) = 0;
     /// The value of spnTabSize, held to 1 to 255.
     virtual void SetTabSpinner(int value) = 0;
     /// Gives the keyboard to txtTabSize.

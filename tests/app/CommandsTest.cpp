@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Commands.h"
 
-#include "HoldsInOrder.h"
+#include "fakes/HoldsInOrder.h"
 
 #include <QString>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Toolbar.h"
 
-#include "HoldsInOrder.h"
 #include "fakes/CallLog.h"
+#include "fakes/HoldsInOrder.h"
 #include "state/DocumentRegistry.h"
 #include "state/Project.h"
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ProgramTest.h"
+#include "fakes/GoldenCases.h"
 
 #include <QFile>
 #include <QRandomGenerator>
@@ -35,32 +36,8 @@ QByteArray RandomBytes(quint32 seed) {
 TEST_F(StoredSettings, HoldsEverySettingInItsOrderAfterTheFirstExit) {
     ASSERT_TRUE(QFile::remove(SettingsFile()));
     ASSERT_TRUE(StartAndLeave());
-    EXPECT_EQ(BytesOf(SettingsFile()), "[Quillbox]\r\n"
-                                       "FenixCPath=C:\\Fenix\\FXC.exe\r\n"
-                                       "HelpPath=C:\\Fenix\\docs\\index.xml\r\n"
-                                       "MainPath=C:\\Fenix\\\r\n"
-                                       "ShowQuickHelp=1\r\n"
-                                       "ColorSyntax=1\r\n"
-                                       "StringColor=8388736\r\n"
-                                       "OperatorsColor=0\r\n"
-                                       "TextColor=0\r\n"
-                                       "BackgroundColor=16777215\r\n"
-                                       "KeywordsColor=128\r\n"
-                                       "CommentsColor=32768\r\n"
-                                       "NumbersColor=16711680\r\n"
-                                       "StringsStyle=0\r\n"
-                                       "CommentsStyle=0\r\n"
-                                       "OperatorsStyle=1\r\n"
-                                       "TextStyle=0\r\n"
-                                       "KeywordsStyle=1\r\n"
-                                       "NumbersStyle=1\r\n"
-                                       "Font=Courier\r\n"
-                                       "FontSize=10\r\n"
-                                       "TabSize=3\r\n"
-                                       "LineNumbers=1\r\n"
-                                       "ShowFunctions=1\r\n"
-                                       "ShowLabels=1\r\n"
-                                       "ShowTypes=1\r\n");
+    EXPECT_EQ(BytesOf(SettingsFile()).toStdString(),
+              ReadBytes(GoldenFolder("settings") / "first_exit.ini"));
 }
 
 TEST_F(StoredSettings, KeepsCommentsOtherSectionsAndTheLetterCaseOfItsKeys) {

@@ -3,6 +3,7 @@
 
 #include "Program.h"
 
+#include "documents/ui/frmDoc.h"
 #include "fakes/FakeSystem.h"
 #include "platform/ProfileFiles.h"
 #include "platform/SystemFiles.h"

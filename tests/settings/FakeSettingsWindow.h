@@ -19,7 +19,7 @@ class FakeSettingsWindow : public SettingsWindow {
 
     SettingsDialog *Rules = nullptr;
     std::map<SettingsText, QString> Texts;
-    std::map<SettingsCheck, bool> Checks;
+    std::map<QString, bool> Checks;
     int Spinner = 1;
     int Item = -1;
     int Style = -1;
@@ -40,9 +40,9 @@ class FakeSettingsWindow : public SettingsWindow {
         if (box == SettingsText::TabSize)
             Rules->txtTabSize_Change();
     }
-    bool IsChecked(SettingsCheck box) const override { return Checks.at(box); }
-    void SetChecked(SettingsCheck box, bool checked) override {
-        Log_.Add("window.SetChecked", static_cast<int>(box), checked);
+    bool IsChecked(const QString &box) const override { return Checks.at(box); }
+    void SetChecked(const QString &box, bool checked) override {
+        Log_.Add("window.SetChecked", box, checked);
         Checks[box] = checked;
     }
     void SetTabSpinner(int value) override {

@@ -47,7 +47,7 @@ class SettingsProgram : public FakeProgram {
     QString TabSizeText() const { return Text(SettingsText::TabSize); }
     /// As a person who replaces what is in the box.
     void Enter(SettingsText box, const QString &text) { Window.SetText(box, text); }
-    void Check(SettingsCheck box, bool checked) { Window.Checks[box] = checked; }
+    void Check(const char *box, bool checked) { Window.Checks[box] = checked; }
     void Store() { Rules.cmdAceptar_Click(); }
 
     LanguageWords Words;

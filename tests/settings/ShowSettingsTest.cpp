@@ -13,32 +13,30 @@ TEST_F(TheOpenedDialog, ShowsEverythingInItsOrder) {
     Options.ShowFunctions = true;
     Options.ShowTypes = true;
     Rules.Form_Load();
-    EXPECT_THAT(Log.Calls(),
-                ElementsAre("window.SetText 0 C:\\Fenix\\FXC.exe",
-                            "window.SetText 1 C:\\Fenix\\index.html", "window.SetChecked 0 true",
-                            // The text brings the spinner along, which repeats the text.
-                            "window.SetText 2 3", "window.SetTabSpinner 3", "window.SetText 2 3",
-                            "window.SetChecked 1 false", "window.SetChecked 3 true",
-                            "window.SetChecked 4 false", "window.SetChecked 5 true",
-                            "window.SetChecked 2 false", "window.SetTabSpinner 3",
-                            "window.SelectItem 0", "window.SetSample 1", "window.EnableStyles true",
-                            "window.SelectStyle 1", "window.SetSample 1",
-                            "window.EnableStyles true", "window.SetFontSample 10 Courier New"));
+    EXPECT_THAT(
+        Log.Calls(),
+        ElementsAre("window.SetText 0 C:\\Fenix\\FXC.exe", "window.SetText 1 C:\\Fenix\\index.html",
+                    "window.SetChecked chkColorSyntax true",
+                    // The text brings the spinner along, which repeats the text.
+                    "window.SetText 2 3", "window.SetTabSpinner 3", "window.SetText 2 3",
+                    "window.SetChecked chkLineNumbers false", "window.SetChecked chkFunciones true",
+                    "window.SetChecked chkLabels false", "window.SetChecked chkTypes true",
+                    "window.SetChecked chkQuickHelp false", "window.SetTabSpinner 3",
+                    "window.SelectItem 0", "window.SetSample 1", "window.EnableStyles true",
+                    "window.SelectStyle 1", "window.SetSample 1", "window.EnableStyles true",
+                    "window.SetFontSample 10 Courier New"));
 }
 
 TEST_F(TheOpenedDialog, ShowsEachCheckBoxFromItsOwnSetting) {
-    constexpr std::pair<SettingsCheck, bool Settings::*> boxes[] = {
-        {SettingsCheck::ColorSyntax, &Settings::ColorSyntax},
-        {SettingsCheck::LineNumbers, &Settings::LineNumbers},
-        {SettingsCheck::QuickHelp, &Settings::ShowQuickHelp},
-        {SettingsCheck::Functions, &Settings::ShowFunctions},
-        {SettingsCheck::Labels, &Settings::ShowLabels},
-        {SettingsCheck::Types, &Settings::ShowTypes}};
+    constexpr std::pair<const char *, bool Settings::*> boxes[] = {
+        {"chkColorSyntax", &Settings::ColorSyntax}, {"chkLineNumbers", &Settings::LineNumbers},
+        {"chkQuickHelp", &Settings::ShowQuickHelp}, {"chkFunciones", &Settings::ShowFunctions},
+        {"chkLabels", &Settings::ShowLabels},       {"chkTypes", &Settings::ShowTypes}};
     for (const auto &[checkedBox, field] : boxes) {
         Options.*field = true;
         Rules.Form_Load();
         for (const auto &[box, other] : boxes)
-            EXPECT_EQ(Window.Checks[box], box == checkedBox) << static_cast<int>(box);
+            EXPECT_EQ(Window.Checks[box], std::string_view(box) == checkedBox) << box;
         Options.*field = false;
     }
 }

@@ -53,19 +53,16 @@ TEST_F(TheStoredSettings, HaveNoToolsFolderForACompilerOfSevenCharacters) {
 }
 
 TEST_F(TheStoredSettings, TakeEachCheckBoxIntoItsOwnSetting) {
-    constexpr std::pair<SettingsCheck, bool Settings::*> boxes[] = {
-        {SettingsCheck::ColorSyntax, &Settings::ColorSyntax},
-        {SettingsCheck::LineNumbers, &Settings::LineNumbers},
-        {SettingsCheck::QuickHelp, &Settings::ShowQuickHelp},
-        {SettingsCheck::Functions, &Settings::ShowFunctions},
-        {SettingsCheck::Labels, &Settings::ShowLabels},
-        {SettingsCheck::Types, &Settings::ShowTypes}};
+    constexpr std::pair<const char *, bool Settings::*> boxes[] = {
+        {"chkColorSyntax", &Settings::ColorSyntax}, {"chkLineNumbers", &Settings::LineNumbers},
+        {"chkQuickHelp", &Settings::ShowQuickHelp}, {"chkFunciones", &Settings::ShowFunctions},
+        {"chkLabels", &Settings::ShowLabels},       {"chkTypes", &Settings::ShowTypes}};
     Load();
     for (const auto &[checkedBox, field] : boxes) {
         Check(checkedBox, true);
         Store();
         for (const auto &[box, other] : boxes)
-            EXPECT_EQ(Options.*other, box == checkedBox) << static_cast<int>(box);
+            EXPECT_EQ(Options.*other, std::string_view(box) == checkedBox) << box;
         Check(checkedBox, false);
     }
 }
@@ -99,9 +96,8 @@ TEST_F(TheStoredSettings, AreThePathsAloneWhenTheCompilersIsTooShort) {
     Enter(SettingsText::CompilerPath, "fxcexe");
     Enter(SettingsText::HelpPath, "/j/ayuda.htm");
     Enter(SettingsText::TabSize, "8");
-    for (const auto box :
-         {SettingsCheck::ColorSyntax, SettingsCheck::LineNumbers, SettingsCheck::QuickHelp,
-          SettingsCheck::Functions, SettingsCheck::Labels, SettingsCheck::Types})
+    for (const char *box : {"chkColorSyntax", "chkLineNumbers", "chkQuickHelp", "chkFunciones",
+                            "chkLabels", "chkTypes"})
         Check(box, true);
     Questions.Colors = {Color{99}};
     Questions.Fonts = {FontChoice{"Courier", 12}};
@@ -129,7 +125,7 @@ TEST_F(TheStoredSettings, KeepTheDialogOnTheScreenWhenTheCompilersPathIsTooShort
 
 TEST_F(TheStoredSettings, ScanTheCurrentDocumentWhenFunctionsAreShown) {
     LoadWithDocument();
-    Check(SettingsCheck::Functions, true);
+    Check("chkFunciones", true);
     Store();
     EXPECT_THAT(Functions(), ElementsAre("Uno"));
     EXPECT_EQ(Languages.Registered.UserWords, "\nUno");
@@ -138,8 +134,8 @@ TEST_F(TheStoredSettings, ScanTheCurrentDocumentWhenFunctionsAreShown) {
 TEST_F(TheStoredSettings, ScanWithTheNewValueForFunctionsAndThePreviousOneForTypes) {
     Options.ShowTypes = true;
     LoadWithDocument();
-    Check(SettingsCheck::Functions, true);
-    Check(SettingsCheck::Types, false);
+    Check("chkFunciones", true);
+    Check("chkTypes", false);
     Store();
     EXPECT_THAT(Types(), ElementsAre("Nave"));
     EXPECT_FALSE(Options.ShowTypes);
@@ -149,8 +145,8 @@ TEST_F(TheStoredSettings, ScanWithTheNewValueForFunctionsAndThePreviousOneForTyp
 
 TEST_F(TheStoredSettings, ShowTypesThatWereSwitchedOnFromTheNextScanOn) {
     LoadWithDocument();
-    Check(SettingsCheck::Functions, true);
-    Check(SettingsCheck::Types, true);
+    Check("chkFunciones", true);
+    Check("chkTypes", true);
     Store();
     EXPECT_THAT(Types(), IsEmpty());
     EXPECT_TRUE(Options.ShowTypes);
@@ -160,8 +156,8 @@ TEST_F(TheStoredSettings, ShowTypesThatWereSwitchedOnFromTheNextScanOn) {
 
 TEST_F(TheStoredSettings, StillHaveTheLabelsOfBeforeDuringTheScan) {
     LoadWithDocument();
-    Check(SettingsCheck::Functions, true);
-    Check(SettingsCheck::Labels, true);
+    Check("chkFunciones", true);
+    Check("chkLabels", true);
     std::optional<bool> labelsDuringScan;
     Events.WhileYielding = [&] { labelsDuringScan = Options.ShowLabels; };
     Store();
@@ -171,9 +167,8 @@ TEST_F(TheStoredSettings, StillHaveTheLabelsOfBeforeDuringTheScan) {
 
 TEST_F(TheStoredSettings, HaveEverythingBeforeTheScanAndNothingBehindItDuringTheScan) {
     LoadWithDocument();
-    for (const auto box :
-         {SettingsCheck::ColorSyntax, SettingsCheck::LineNumbers, SettingsCheck::QuickHelp,
-          SettingsCheck::Functions, SettingsCheck::Labels, SettingsCheck::Types})
+    for (const char *box : {"chkColorSyntax", "chkLineNumbers", "chkQuickHelp", "chkFunciones",
+                            "chkLabels", "chkTypes"})
         Check(box, true);
     Enter(SettingsText::TabSize, "8");
     Questions.Colors = {Color{99}};
@@ -211,7 +206,7 @@ TEST_F(TheStoredSettings, EmptyTheListsAndTheUserWordsWhenFunctionsAreNotShown) 
 
 TEST_F(TheStoredSettings, NeedNoDocument) {
     Load();
-    Check(SettingsCheck::Functions, true);
+    Check("chkFunciones", true);
     Store();
     EXPECT_THAT(Log.CallsOf({"lists.", "languages."}), IsEmpty());
     EXPECT_TRUE(Options.ShowFunctions);

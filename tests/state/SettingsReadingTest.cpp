@@ -1,52 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fakes/ErrorNumber.h"
 #include "fakes/FakeSystem.h"
+#include "fakes/GoldenCases.h"
 #include "state/settings.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include <set>
 
 namespace Quillbox {
 namespace {
 
-using testing::ElementsAre;
-
-constexpr const char *ColorKeys[] = {"StringColor",     "OperatorsColor", "TextColor",
-                                     "BackgroundColor", "KeywordsColor",  "CommentsColor",
-                                     "NumbersColor"};
-constexpr const char *ByteKeys[] = {"StringsStyle",  "CommentsStyle", "OperatorsStyle", "TextStyle",
-                                    "KeywordsStyle", "NumbersStyle",  "FontSize",       "TabSize"};
-constexpr const char *BooleanKeys[] = {"ShowQuickHelp", "ColorSyntax", "LineNumbers",
-                                       "ShowFunctions", "ShowLabels",  "ShowTypes"};
-
-Settings Defaults() {
-    Settings settings;
-    settings.FenixCPath = "C:\\Fenix\\FXC.exe";
-    settings.HelpPath = "C:\\Fenix\\docs\\index.xml";
-    settings.MainPath = "C:\\Fenix\\";
-    settings.ShowQuickHelp = true;
-    settings.ColorSyntax = true;
-    settings.StringColor = RgbColor(128, 0, 128);
-    settings.OperatorsColor = RgbColor(0, 0, 0);
-    settings.TextColor = RgbColor(0, 0, 0);
-    settings.BackgroundColor = RgbColor(255, 255, 255);
-    settings.KeywordsColor = RgbColor(128, 0, 0);
-    settings.CommentsColor = RgbColor(0, 128, 0);
-    settings.NumbersColor = RgbColor(0, 0, 255);
-    settings.StringsStyle = 0;
-    settings.CommentsStyle = 0;
-    settings.OperatorsStyle = 1;
-    settings.TextStyle = 0;
-    settings.KeywordsStyle = 1;
-    settings.NumbersStyle = 1;
-    settings.Font = "Courier";
-    settings.FontSize = 10;
-    settings.TabSize = 3;
-    settings.LineNumbers = true;
-    settings.ShowFunctions = true;
-    settings.ShowLabels = true;
-    settings.ShowTypes = true;
-    return settings;
+/// The keys whose fields are of this type.
+template <typename Type>
+std::vector<const char *> KeysOf() {
+    std::vector<const char *> keys;
+    for (const SettingsEntry &entry : SettingsEntries())
+        if (std::holds_alternative<Type Settings::*>(entry.Field))
+            keys.push_back(entry.Key);
+    return keys;
 }
 
 class ReadingSettings : public testing::Test {
@@ -66,37 +36,33 @@ class ReadingSettings : public testing::Test {
     FakeProfile Profile{Log};
 };
 
-TEST_F(ReadingSettings, TakesTheDefaultOfEveryMissingKey) { EXPECT_TRUE(Read({}) == Defaults()); }
+TEST_F(ReadingSettings, TakesTheDefaultOfEveryMissingKey) {
+    Settings settings = Read({});
+    SettingsStore("/q/", settings, Profile).SaveSettings();
 
-TEST_F(ReadingSettings, AsksForEveryKeyInOrderWithItsCapacity) {
+    QString written = "[Quillbox]\r\n";
+    for (const auto &[key, value] : Profile.Written)
+        written += key + '=' + value + "\r\n";
+    EXPECT_EQ(written.toStdString(), ReadBytes(GoldenFolder("settings") / "first_exit.ini"));
+}
+
+/// One place of the buffer stays empty.
+int CapacityOf(const SettingsEntry &entry) {
+    if (std::holds_alternative<QString Settings::*>(entry.Field))
+        return 100;
+    return std::holds_alternative<bool Settings::*>(entry.Field) ? 2 : 50;
+}
+
+TEST_F(ReadingSettings, AsksForEveryKeyOnceInOrderWithItsCapacity) {
+    std::vector<std::string> expected;
+    for (const SettingsEntry &entry : SettingsEntries())
+        expected.push_back("profile.ReadString Quillbox " + std::string(entry.Key) + ' ' +
+                           std::to_string(CapacityOf(entry)) + " /q/Quillbox.ini");
+
     Read({});
 
-    EXPECT_THAT(Log.Calls(),
-                ElementsAre("profile.ReadString Quillbox FenixCPath 100 /q/Quillbox.ini",
-                            "profile.ReadString Quillbox HelpPath 100 /q/Quillbox.ini",
-                            "profile.ReadString Quillbox MainPath 100 /q/Quillbox.ini",
-                            "profile.ReadString Quillbox ShowQuickHelp 2 /q/Quillbox.ini",
-                            "profile.ReadString Quillbox ColorSyntax 2 /q/Quillbox.ini",
-                            "profile.ReadString Quillbox StringColor 50 /q/Quillbox.ini",
-                            "profile.ReadString Quillbox OperatorsColor 50 /q/Quillbox.ini",
-                            "profile.ReadString Quillbox TextColor 50 /q/Quillbox.ini",
-                            "profile.ReadString Quillbox BackgroundColor 50 /q/Quillbox.ini",
-                            "profile.ReadString Quillbox KeywordsColor 50 /q/Quillbox.ini",
-                            "profile.ReadString Quillbox CommentsColor 50 /q/Quillbox.ini",
-                            "profile.ReadString Quillbox NumbersColor 50 /q/Quillbox.ini",
-                            "profile.ReadString Quillbox StringsStyle 50 /q/Quillbox.ini",
-                            "profile.ReadString Quillbox CommentsStyle 50 /q/Quillbox.ini",
-                            "profile.ReadString Quillbox OperatorsStyle 50 /q/Quillbox.ini",
-                            "profile.ReadString Quillbox TextStyle 50 /q/Quillbox.ini",
-                            "profile.ReadString Quillbox KeywordsStyle 50 /q/Quillbox.ini",
-                            "profile.ReadString Quillbox NumbersStyle 50 /q/Quillbox.ini",
-                            "profile.ReadString Quillbox Font 100 /q/Quillbox.ini",
-                            "profile.ReadString Quillbox FontSize 50 /q/Quillbox.ini",
-                            "profile.ReadString Quillbox TabSize 50 /q/Quillbox.ini",
-                            "profile.ReadString Quillbox LineNumbers 2 /q/Quillbox.ini",
-                            "profile.ReadString Quillbox ShowFunctions 2 /q/Quillbox.ini",
-                            "profile.ReadString Quillbox ShowLabels 2 /q/Quillbox.ini",
-                            "profile.ReadString Quillbox ShowTypes 2 /q/Quillbox.ini"));
+    EXPECT_EQ(Log.Calls(), expected);
+    EXPECT_EQ(std::set(expected.begin(), expected.end()).size(), expected.size());
 }
 
 TEST_F(ReadingSettings, PutsEachKeyIntoItsOwnField) {
@@ -133,7 +99,7 @@ TEST_F(ReadingSettings, PutsEachKeyIntoItsOwnField) {
         {"ShowTypes", "0", [](Settings &s) { s.ShowTypes = false; }},
     };
     for (const Case &one : cases) {
-        Settings expected = Defaults();
+        Settings expected = Read({});
         one.Change(expected);
         EXPECT_TRUE(Read({{one.Key, one.Text}}) == expected) << one.Key;
     }
@@ -150,7 +116,7 @@ TEST_F(ReadingSettings, TakesTheFirstCharacterOfABoolean) {
         {"01", false},   {"-1", false},   {"+1", false}, {"", false},    {" ", false},
         {"true", false}, {"&HFF", false}, {".5", false}, {"0.9", false},
     };
-    for (const char *key : BooleanKeys)
+    for (const char *key : KeysOf<bool>())
         for (const Case &one : cases) {
             const SettingsEntry *entry = nullptr;
             for (const SettingsEntry &candidate : SettingsEntries())
@@ -201,13 +167,13 @@ TEST_F(ReadingSettings, ReadsBytesAsNumbers) {
 }
 
 TEST_F(ReadingSettings, EndsInRunTimeErrorSixAtAColourOutsideThirtyTwoBits) {
-    for (const char *key : ColorKeys)
+    for (const char *key : KeysOf<Color>())
         for (const char *text : {"2147483648", "-2147483649", "99999999999999999999"})
             EXPECT_EQ(ErrorOf(key, text), 6) << key << '=' << text;
 }
 
 TEST_F(ReadingSettings, EndsInRunTimeErrorSixAtAByteOutsideItsRange) {
-    for (const char *key : ByteKeys)
+    for (const char *key : KeysOf<std::uint8_t>())
         for (const char *text : {"256", "300", "-1", "255.5"})
             EXPECT_EQ(ErrorOf(key, text), 6) << key << '=' << text;
 }

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fakes/FakeSystem.h"
+#include "fakes/GoldenCases.h"
+#include "fakes/HoldsInOrder.h"
 #include "platform/ProfileFiles.h"
 #include "state/settings.h"
 
@@ -58,15 +60,31 @@ TEST_F(WritingSettings, WritesEveryKeyInTheOrderOfReading) {
     std::vector<std::string> written;
     for (const auto &[key, value] : Profile.Written)
         written.push_back((key + '=' + value).toStdString());
-    EXPECT_THAT(written,
-                ElementsAre("FenixCPath=/b/bcc", "HelpPath=/b/index.html", "MainPath=/b/",
-                            "ShowQuickHelp=1", "ColorSyntax=0", "StringColor=1", "OperatorsColor=0",
-                            "TextColor=16777215", "BackgroundColor=-1", "KeywordsColor=5",
-                            "CommentsColor=-2147483648", "NumbersColor=2147483647",
-                            "StringsStyle=2", "CommentsStyle=3", "OperatorsStyle=0",
-                            "TextStyle=255", "KeywordsStyle=6", "NumbersStyle=7", "Font=Fira Code",
-                            "FontSize=24", "TabSize=8", "LineNumbers=1", "ShowFunctions=0",
-                            "ShowLabels=1", "ShowTypes=0"));
+    EXPECT_THAT(written, HoldsInOrder(std::vector<std::string>{"FenixCPath=/b/bcc",
+                                                               "HelpPath=/b/index.html",
+                                                               "MainPath=/b/",
+                                                               "ShowQuickHelp=1",
+                                                               "ColorSyntax=0",
+                                                               "StringColor=1",
+                                                               "OperatorsColor=0",
+                                                               "TextColor=16777215",
+                                                               "BackgroundColor=-1",
+                                                               "KeywordsColor=5",
+                                                               "CommentsColor=-2147483648",
+                                                               "NumbersColor=2147483647",
+                                                               "StringsStyle=2",
+                                                               "CommentsStyle=3",
+                                                               "OperatorsStyle=0",
+                                                               "TextStyle=255",
+                                                               "KeywordsStyle=6",
+                                                               "NumbersStyle=7",
+                                                               "Font=Fira Code",
+                                                               "FontSize=24",
+                                                               "TabSize=8",
+                                                               "LineNumbers=1",
+                                                               "ShowFunctions=0",
+                                                               "ShowLabels=1",
+                                                               "ShowTypes=0"}));
 }
 
 TEST_F(WritingSettings, WritesOnceIntoItsSectionOfTheProgramFoldersFile) {
@@ -104,33 +122,8 @@ class SettingsFile : public testing::Test {
 TEST_F(SettingsFile, HoldsAllKeysInOrderAfterTheFirstExit) {
     Save(Load());
 
-    EXPECT_EQ(QString::fromLatin1(Content()).remove('\r'),
-              QString("[Quillbox]\n"
-                      "FenixCPath=C:\\Fenix\\FXC.exe\n"
-                      "HelpPath=C:\\Fenix\\docs\\index.xml\n"
-                      "MainPath=C:\\Fenix\\\n"
-                      "ShowQuickHelp=1\n"
-                      "ColorSyntax=1\n"
-                      "StringColor=8388736\n"
-                      "OperatorsColor=0\n"
-                      "TextColor=0\n"
-                      "BackgroundColor=16777215\n"
-                      "KeywordsColor=128\n"
-                      "CommentsColor=32768\n"
-                      "NumbersColor=16711680\n"
-                      "StringsStyle=0\n"
-                      "CommentsStyle=0\n"
-                      "OperatorsStyle=1\n"
-                      "TextStyle=0\n"
-                      "KeywordsStyle=1\n"
-                      "NumbersStyle=1\n"
-                      "Font=Courier\n"
-                      "FontSize=10\n"
-                      "TabSize=3\n"
-                      "LineNumbers=1\n"
-                      "ShowFunctions=1\n"
-                      "ShowLabels=1\n"
-                      "ShowTypes=1\n"));
+    EXPECT_EQ(Content().replace("\r\n", "\n").replace("\n", "\r\n").toStdString(),
+              ReadBytes(GoldenFolder("settings") / "first_exit.ini"));
 }
 
 TEST_F(SettingsFile, ComesBackAsItWasWritten) {

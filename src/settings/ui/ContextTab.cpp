@@ -2,9 +2,10 @@
 #include "settings/ui/ContextTab.h"
 
 #include "base/CreditLine.h"
+#include "settings/SettingsCheckBox.h"
+#include "settings/ui/CheckBoxes.h"
 #include "widgets/Controls.h"
 
-#include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QVBoxLayout>
@@ -12,11 +13,9 @@
 namespace Quillbox {
 namespace {
 
-QGroupBox *Grouped(const char *caption, std::initializer_list<QCheckBox *> boxes) {
+QGroupBox *Framed(const char *caption, SettingsFrame frame) {
     auto *group = new QGroupBox(QString::fromUtf8(caption));
-    auto *column = new QVBoxLayout(group);
-    for (QCheckBox *box : boxes)
-        column->addWidget(box);
+    AddCheckBoxes(*new QVBoxLayout(group), frame);
     return group;
 }
 
@@ -30,18 +29,10 @@ QLabel *NewCredit() {
 
 } // namespace
 
-ContextTab::ContextTab()
-    : chkQuickHelp(NewControl<QCheckBox>("chkQuickHelp", "Mostrar ayuda rápida",
-                                         "Muestra la ayuda rápida en la barra de estado"))
-    , chkFunciones(NewControl<QCheckBox>("chkFunciones", "Procesos",
-                                         "Recopila la lista de funciones programadas"))
-    , chkLabels(NewControl<QCheckBox>("chkLabels", "Etiquetas",
-                                      "Recopila una lista de etiquetas establecidas"))
-    , chkTypes(
-          NewControl<QCheckBox>("chkTypes", "Types", "Recopila una lista de Types definidos")) {
+ContextTab::ContextTab() {
     auto *layout = new QVBoxLayout(this);
-    layout->addWidget(Grouped("Ayuda", {chkQuickHelp}));
-    layout->addWidget(Grouped("Recopilación de Datos", {chkFunciones, chkLabels, chkTypes}));
+    layout->addWidget(Framed("Ayuda", SettingsFrame::Help));
+    layout->addWidget(Framed("Recopilación de Datos", SettingsFrame::Symbols));
     layout->addStretch();
     layout->addWidget(NewCredit());
 }

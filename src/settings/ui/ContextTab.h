@@ -3,8 +3,6 @@
 
 #include <QWidget>
 
-class QCheckBox;
-
 namespace Quillbox {
 
 /// The tab "Contexto" of frmSettings.
@@ -12,11 +10,6 @@ class ContextTab final : public QWidget {
     Q_OBJECT
   public:
     ContextTab();
-
-    QCheckBox *chkQuickHelp;
-    QCheckBox *chkFunciones;
-    QCheckBox *chkLabels;
-    QCheckBox *chkTypes;
 };
 
 } // namespace Quillbox

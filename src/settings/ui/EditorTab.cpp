@@ -2,13 +2,14 @@
 #include "settings/ui/EditorTab.h"
 
 #include "settings/ItemAttributes.h"
+#include "settings/SettingsCheckBox.h"
+#include "settings/ui/CheckBoxes.h"
 #include "settings/ui/ChoiceList.h"
 #include "settings/ui/TabSizeBox.h"
 #include "surfaces/Dialogs.h"
 #include "widgets/Controls.h"
 #include "widgets/InstalledFamily.h"
 
-#include <QCheckBox>
 #include <QFrame>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -77,10 +78,6 @@ EditorTab::EditorTab()
     , lblFont(NewFontSample())
     , cmdCambiarFuente(
           NewButton("cmdCambiarFuente", "Cambiar Fuente", "Cambia la fuente del editor"))
-    , chkColorSyntax(NewControl<QCheckBox>("chkColorSyntax", "Colorear &Sintaxis",
-                                           "Activa/Desactiva el color de la sintaxis"))
-    , chkLineNumbers(NewControl<QCheckBox>("chkLineNumbers", "Números de Línea",
-                                           "¿Mostrar los números de línea?"))
     , spnTabSize(new TabSizeBox) {
     auto *layout = new QGridLayout(this);
     layout->addLayout(ItemColumn(), 0, 0);
@@ -112,7 +109,7 @@ QGroupBox *EditorTab::FontGroup() {
     column->addWidget(lstStyles);
     column->addLayout(font);
     column->addWidget(lblFont);
-    column->addWidget(chkColorSyntax);
+    AddCheckBoxes(*column, SettingsFrame::FontAndColors);
     return group;
 }
 
@@ -122,7 +119,7 @@ QGroupBox *EditorTab::OtherGroup() {
     caption->setBuddy(spnTabSize->txtTabSize);
     spnTabSize->setAccessibleName(caption->text());
     auto *row = new QHBoxLayout(group);
-    row->addWidget(chkLineNumbers);
+    AddCheckBoxes(*row, SettingsFrame::Others);
     row->addStretch();
     row->addWidget(caption);
     row->addWidget(spnTabSize);

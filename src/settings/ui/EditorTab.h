@@ -5,7 +5,6 @@
 
 #include <QWidget>
 
-class QCheckBox;
 class QFrame;
 class QGroupBox;
 class QLabel;
@@ -33,8 +32,6 @@ class EditorTab final : public QWidget {
     ChoiceList *lstStyles;
     QLabel *lblFont;
     QPushButton *cmdCambiarFuente;
-    QCheckBox *chkColorSyntax;
-    QCheckBox *chkLineNumbers;
     TabSizeBox *spnTabSize;
 
   private:

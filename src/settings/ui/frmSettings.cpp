@@ -29,14 +29,13 @@ frmSettings::frmSettings(const RulesMaker &rulesOver, const EventBoundary &bound
     , Rules_(rulesOver(*this))
     , Boundary_(boundary)
     , Folders_(new FoldersTab)
-    , Editor_(new EditorTab)
-    , Context_(new ContextTab) {
+    , Editor_(new EditorTab) {
     setObjectName(QStringLiteral("frmSettings"));
     setWindowTitle(QStringLiteral("Configuración..."));
     auto *tabs = new QTabWidget;
     tabs->addTab(Folders_, QStringLiteral("Directorios"));
     tabs->addTab(Editor_, QStringLiteral("Editor"));
-    tabs->addTab(Context_, QStringLiteral("Contexto"));
+    tabs->addTab(new ContextTab, QStringLiteral("Contexto"));
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(tabs);
     layout->addLayout(ButtonRow());
@@ -132,9 +131,13 @@ void frmSettings::SetText(SettingsText box, const QString &text) {
         textBox.selectAll();
 }
 
-bool frmSettings::IsChecked(SettingsCheck box) const { return BoxOf(box).isChecked(); }
+bool frmSettings::IsChecked(const QString &box) const {
+    return findChild<QCheckBox *>(box)->isChecked();
+}
 
-void frmSettings::SetChecked(SettingsCheck box, bool checked) { BoxOf(box).setChecked(checked); }
+void frmSettings::SetChecked(const QString &box, bool checked) {
+    findChild<QCheckBox *>(box)->setChecked(checked);
+}
 
 void frmSettings::SetTabSpinner(int value) { Editor_->spnTabSize->setValue(value); }
 
@@ -164,24 +167,6 @@ QLineEdit &frmSettings::BoxOf(SettingsText box) const {
         break;
     }
     return *Editor_->spnTabSize->txtTabSize;
-}
-
-QCheckBox &frmSettings::BoxOf(SettingsCheck box) const {
-    switch (box) {
-    case SettingsCheck::ColorSyntax:
-        return *Editor_->chkColorSyntax;
-    case SettingsCheck::LineNumbers:
-        return *Editor_->chkLineNumbers;
-    case SettingsCheck::QuickHelp:
-        return *Context_->chkQuickHelp;
-    case SettingsCheck::Functions:
-        return *Context_->chkFunciones;
-    case SettingsCheck::Labels:
-        return *Context_->chkLabels;
-    case SettingsCheck::Types:
-        break;
-    }
-    return *Context_->chkTypes;
 }
 
 } // namespace Quillbox

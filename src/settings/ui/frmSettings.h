@@ -9,14 +9,12 @@
 
 #include <functional>
 
-class QCheckBox;
 class QLayout;
 class QLineEdit;
 class QPushButton;
 
 namespace Quillbox {
 
-class ContextTab;
 class EditorTab;
 class EventBoundary;
 class FoldersTab;
@@ -33,8 +31,8 @@ class frmSettings final : public QDialog, public SettingsWindow {
 
     QString Text(SettingsText box) const override;
     void SetText(SettingsText box, const QString &text) override;
-    bool IsChecked(SettingsCheck box) const override;
-    void SetChecked(SettingsCheck box, bool checked) override;
+    bool IsChecked(const QString &box) const override;
+    void SetChecked(const QString &box, bool checked) override;
     void SetTabSpinner(int value) override;
     void FocusTabSize() override;
     int SelectedItem() const override;
@@ -55,13 +53,11 @@ class frmSettings final : public QDialog, public SettingsWindow {
     template <typename Sender, typename Signal, typename... Values>
     void Forward(const Sender *sender, Signal signal, void (SettingsDialog::*handler)(Values...));
     QLineEdit &BoxOf(SettingsText box) const;
-    QCheckBox &BoxOf(SettingsCheck box) const;
 
     SettingsDialog Rules_;
     const EventBoundary &Boundary_;
     FoldersTab *Folders_;
     EditorTab *Editor_;
-    ContextTab *Context_;
     QPointer<QWidget> LastFocus_; ///< has the keyboard when the dialog comes again
     bool ComesAgain_ = false;
 };

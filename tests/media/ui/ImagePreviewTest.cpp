@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fakes/UiProgram.h"
 #include "media/ui/PictureFile.h"
+#include "media/ui/frmMediaBrowser.h"
 #include "media/ui/frmMuestraImagenes.h"
 
 #include <QImage>

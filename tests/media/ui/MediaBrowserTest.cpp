@@ -4,6 +4,7 @@
 #include "media/ui/DriveList.h"
 #include "media/ui/FileList.h"
 #include "media/ui/FolderList.h"
+#include "media/ui/frmMediaBrowser.h"
 
 #include <QLabel>
 #include <QPushButton>
