@@ -11,6 +11,8 @@
 #include <QGuiApplication>
 #include <QMimeData>
 
+#include <map>
+
 namespace Quillbox {
 
 bool ScintillaEditor::CanCopy() const { return HasSelection(Text_); }
@@ -71,46 +73,30 @@ void ScintillaEditor::SetFocus() {
 }
 
 void ScintillaEditor::ExecuteCommand(EditorCommand command) {
-    switch (command) {
-    case EditorCommand::SelectAll:
-        Text_.Send(SCI_SELECTALL);
-        break;
-    case EditorCommand::FindAndReplace:
-    case EditorCommand::FindNext:
-    case EditorCommand::FindPrevious:
-        emit FindRequested(command);
-        break;
-    case EditorCommand::DeleteNextCharacter:
-        Perform([this] { Text_.Send(SCI_CLEAR); });
-        break;
-    case EditorCommand::ToggleBookmark:
-        ToggleBookmark(Text_);
-        break;
-    case EditorCommand::PreviousBookmark:
-        GoToBookmark(Text_, MarkDirection::Previous);
-        break;
-    case EditorCommand::NextBookmark:
-        GoToBookmark(Text_, MarkDirection::Next);
-        break;
-    case EditorCommand::ClearBookmarks:
-        ClearBookmarks(Text_);
-        break;
-    case EditorCommand::FirstBookmark:
-        GoToFirstBookmark(Text_);
-        break;
-    case EditorCommand::LastBookmark:
-        GoToLastBookmark(Text_);
-        break;
-    case EditorCommand::GoToLine:
-        GoToLine(*this);
-        break;
-    case EditorCommand::GoToMatchingBracket:
-        GoToMatchingBracket(Text_, Colouring_);
-        break;
-    case EditorCommand::SelectNextOccurrence:
-        SelectNextOccurrence(Text_);
-        break;
-    }
+    using Execution = void (*)(ScintillaEditor &);
+    static const std::map<EditorCommand, Execution> executions = {
+        {EditorCommand::SelectAll, [](auto &on) { on.Text_.Send(SCI_SELECTALL); }},
+        {EditorCommand::FindAndReplace,
+         [](auto &on) { emit on.FindRequested(EditorCommand::FindAndReplace); }},
+        {EditorCommand::FindNext, [](auto &on) { emit on.FindRequested(EditorCommand::FindNext); }},
+        {EditorCommand::FindPrevious,
+         [](auto &on) { emit on.FindRequested(EditorCommand::FindPrevious); }},
+        {EditorCommand::DeleteNextCharacter,
+         [](auto &on) { on.Perform([&] { on.Text_.Send(SCI_CLEAR); }); }},
+        {EditorCommand::ToggleBookmark, [](auto &on) { ToggleBookmark(on.Text_); }},
+        {EditorCommand::PreviousBookmark,
+         [](auto &on) { GoToBookmark(on.Text_, MarkDirection::Previous); }},
+        {EditorCommand::NextBookmark,
+         [](auto &on) { GoToBookmark(on.Text_, MarkDirection::Next); }},
+        {EditorCommand::ClearBookmarks, [](auto &on) { ClearBookmarks(on.Text_); }},
+        {EditorCommand::FirstBookmark, [](auto &on) { GoToFirstBookmark(on.Text_); }},
+        {EditorCommand::LastBookmark, [](auto &on) { GoToLastBookmark(on.Text_); }},
+        {EditorCommand::GoToLine, [](auto &on) { GoToLine(on); }},
+        {EditorCommand::GoToMatchingBracket,
+         [](auto &on) { GoToMatchingBracket(on.Text_, on.Colouring_); }},
+        {EditorCommand::SelectNextOccurrence, [](auto &on) { SelectNextOccurrence(on.Text_); }},
+    };
+    executions.at(command)(*this);
 }
 
 void ScintillaEditor::Print(const QString &fileName) { ShowPrintPreview(*this, fileName); }
