@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "RealProgram.h"
 #include "Report.h"
+#include "surfaces/DocumentWindow.h"
+#include "surfaces/EditorControl.h"
 
 #include <QKeyEvent>
 #include <QProcess>
