@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ProgramTest.h"
-#include "fakes/GoldenCases.h"
 
 #include <QFile>
 #include <QRandomGenerator>
@@ -36,8 +35,7 @@ QByteArray RandomBytes(quint32 seed) {
 TEST_F(StoredSettings, HoldsEverySettingInItsOrderAfterTheFirstExit) {
     ASSERT_TRUE(QFile::remove(SettingsFile()));
     ASSERT_TRUE(StartAndLeave());
-    EXPECT_EQ(BytesOf(SettingsFile()).toStdString(),
-              ReadBytes(GoldenFolder("settings") / "first_exit.ini"));
+    EXPECT_EQ(BytesOf(SettingsFile()), BytesOf(QStringLiteral(QUILLBOX_FIRST_SETTINGS)));
 }
 
 TEST_F(StoredSettings, KeepsCommentsOtherSectionsAndTheLetterCaseOfItsKeys) {
