@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/Version.h"
+#include "fakes/HoldsInOrder.h"
 #include "settings/ui/SettingsDialogProgram.h"
 
 #include <QGroupBox>
@@ -95,20 +96,23 @@ TEST_F(TheLookOfTheSettingsDialog, HasItsGroupsOnThreeTabs) {
     }});
 }
 
+/// Further check boxes stand with those of their frame.
 TEST_F(TheLookOfTheSettingsDialog, IsWalkedFromTopToBottomWithTab) {
     InSettings({[](QDialog &dialog) {
         const QRegularExpression control(QStringLiteral("^(txt|cmd|lst|chk)"));
-        QStringList names;
+        std::vector<std::string> names;
         for (const QWidget *widget = dialog.nextInFocusChain(); widget != &dialog;
              widget = widget->nextInFocusChain())
             if ((widget->focusPolicy() & Qt::TabFocus) &&
                 control.match(widget->objectName()).hasMatch())
-                names.append(widget->objectName());
-        EXPECT_EQ(
-            names.join(u' '),
-            "txtCompilerPath cmdCompilerBrowse txtHelpPath cmdHelpBrowse lstItems cmdCambiarColor "
-            "lstStyles cmdCambiarFuente chkColorSyntax chkLineNumbers txtTabSize chkQuickHelp "
-            "chkFunciones chkLabels chkTypes cmdAceptar cmdAplicar cmdCancelar cmdAyuda");
+                names.push_back(widget->objectName().toStdString());
+        const std::vector<std::string> known = {
+            "txtCompilerPath", "cmdCompilerBrowse", "txtHelpPath", "cmdHelpBrowse",
+            "lstItems",        "cmdCambiarColor",   "lstStyles",   "cmdCambiarFuente",
+            "chkColorSyntax",  "chkLineNumbers",    "txtTabSize",  "chkQuickHelp",
+            "chkFunciones",    "chkLabels",         "chkTypes",    "cmdAceptar",
+            "cmdAplicar",      "cmdCancelar",       "cmdAyuda"};
+        EXPECT_THAT(names, HoldsInOrder(known));
     }});
 }
 
