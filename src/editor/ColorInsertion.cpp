@@ -22,7 +22,7 @@ int ValueOfDigit(QChar digit) {
 }
 
 /// Empty unless the selection lies in one line.
-QString SelectedText(const EditorControl &editor) {
+QString SelectedText(const EditorContents &editor) {
     const auto [start, end] = editor.GetSel();
     if (start.Line != end.Line)
         return {};

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "language/ColouringRules.h"
-#include "surfaces/EditorControl.h"
+#include "surfaces/EditorContents.h"
 
 #include <functional>
 #include <string_view>

@@ -1,63 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "base/Color.h"
-#include "base/TextPosition.h"
 #include "surfaces/Completion.h"
-
-#include <QString>
+#include "surfaces/EditorAppearance.h"
+#include "surfaces/EditorContents.h"
 
 #include <functional>
-#include <string_view>
 
 namespace Quillbox {
-
-/// Colour slots of the editor control. Each class of text has a foreground and a background slot.
-enum class ColorSlot {
-    Window = 0, ///< what lies behind and below the text
-    Margin = 1, ///< background of the margin with line numbers and bookmarks
-    Text = 4,
-    TextBackground = 5,
-    Number = 6,
-    NumberBackground = 7,
-    Keyword = 8,
-    KeywordBackground = 9,
-    Operator = 10,
-    OperatorBackground = 11,
-    Comment = 14,
-    CommentBackground = 15,
-    String = 16,
-    StringBackground = 17,
-    UserWord = 20, ///< the document's own function names
-    UserWordBackground = 21,
-    MarginDivider = 27,   ///< the line between the margin and the text
-    HighlightedLine = 30, ///< tint of the line that an error message names
-};
-
-/// Classes of text that carry a font style of their own.
-enum class FontStyleClass {
-    Text = 0,
-    Number = 1,
-    Keyword = 2,
-    Operator = 3,
-    Comment = 5,
-    String = 6,
-    UserWord = 8,
-};
-
-/// Font styles as the settings file numbers them; any other number shows as `Normal`.
-enum class FontStyle { Normal = 0, Bold = 1, Italic = 2, BoldItalic = 3, Underline = 4 };
-
-/// The class of the word at the caret.
-enum class TokenClass {
-    Unclassified = -1, ///< a word that is no keyword: ordinary text or a user word
-    Text = 0,          ///< no word at all
-    Keyword = 1,
-    Number = 2,
-    Operator = 3,
-    Comment = 4,
-    String = 5,
-};
 
 /// The editor control's numbered commands.
 enum class EditorCommand {
@@ -80,41 +30,11 @@ enum class EditorCommand {
 
 /// The operations of one document's editor. Lines and columns are 0-based and count characters;
 /// a line or column outside the text means the nearest one inside.
-class EditorControl {
+class EditorControl : public EditorAppearance, public EditorContents {
   public:
-    virtual ~EditorControl() = default;
-
-    /// Chooses a registered language by its name; an unknown name leaves the text uncoloured.
-    virtual void SetLanguage(const QString &name) = 0;
-    virtual void SetColorSyntax(bool on) = 0;
-    virtual void SetColor(ColorSlot slot, Color color) = 0;
-    /// `style` is one of FontStyle; any other number shows as normal text.
-    virtual void SetFontStyle(FontStyleClass textClass, int style) = 0;
-    virtual void SetFontName(const QString &name) = 0;
-    /// In points; 0 leaves the smallest size that can be shown.
-    virtual void SetFontSize(int points) = 0;
-    /// Width of a tab stop in columns; 0 counts as 1.
-    virtual void SetTabSize(int columns) = 0;
-    virtual void SetLineNumbers(bool shown) = 0;
-
-    /// At least 1: the empty text has one empty line.
-    virtual int LineCount() const = 0;
-    /// Without its line end.
-    virtual QString LineText(LineIndex line) const = 0;
-    /// A line's bytes in UTF-8 without its line end; false ends the visits.
-    using LineVisitor = std::function<bool(LineIndex line, std::string_view utf8)>;
-    /// Hands over the lines from the first to the last, without a copy. The text must not change
-    /// meanwhile.
-    virtual void VisitLines(const LineVisitor &visit) const = 0;
     /// Puts the caret at the start of `line` and brings it into view.
     virtual void SetLinePosition(LineIndex line) = 0;
 
-    /// The word that touches the caret, empty when there is none.
-    virtual QString CurrentWord() const = 0;
-    virtual TokenClass CurrentTokenClass() const = 0;
-
-    /// The selection, normalised; empty at the caret when nothing is selected.
-    virtual TextRange GetSel() const = 0;
     virtual void DeleteSel() = 0;
     virtual bool CanCopy() const = 0;
     virtual void Copy() = 0;
@@ -133,9 +53,6 @@ class EditorControl {
     /// Writes the text as ANSI bytes: afterwards the file holds all old or all new bytes. Success
     /// clears the modified flag; a failure tells the person why and leaves the flag as it is.
     virtual bool SaveFile(const QString &path) = 0;
-    virtual bool IsModified() const = 0;
-    /// The whole text; for small texts and tests, never on a hot path.
-    virtual QString Text() const = 0;
     /// Takes over text, modified flag, undo history, marks, caret, scroll position and zoom of
     /// `other` without copying the text. Until `other` is closed or takes over another text, both
     /// show it.

@@ -38,6 +38,19 @@ class SaveFailureTest : public FolderTest {
         }
     }
 
+    /// Files seem to be programs of another user and group that run as their owner.
+    static SystemCalls WithAnotherOwner() {
+        SystemCalls calls;
+        calls.Lstat = [](const char *name, struct stat *status) {
+            const int result = ::lstat(name, status);
+            status->st_uid = 1234;
+            status->st_gid = 5678;
+            status->st_mode |= S_ISUID;
+            return result;
+        };
+        return calls;
+    }
+
     void Clear() const {
         for (const QString &name : Entries())
             QFile::remove(PathOf(name));
@@ -228,14 +241,7 @@ TEST_F(SaveFailureTest, SavesInAFolderThatCannotBeListed) {
 TEST_F(SaveFailureTest, KeepsOwnerAndGroupOfTheOldFile) {
     WriteTestFile(PathOf("a.prg"), Old);
     SetMode(PathOf("a.prg"), 0755);
-    SystemCalls calls;
-    calls.Lstat = [](const char *name, struct stat *status) {
-        const int result = ::lstat(name, status);
-        status->st_uid = 1234;
-        status->st_gid = 5678;
-        status->st_mode |= S_ISUID;
-        return result;
-    };
+    SystemCalls calls = WithAnotherOwner();
     std::vector<std::pair<uid_t, gid_t>> owners;
     calls.Fchown = [&owners](int, uid_t user, gid_t group) {
         owners.emplace_back(user, group);
@@ -249,14 +255,7 @@ TEST_F(SaveFailureTest, KeepsOwnerAndGroupOfTheOldFile) {
 TEST_F(SaveFailureTest, KeepsTheGroupAloneWhenTheOwnerMayNotBeGivenAway) {
     WriteTestFile(PathOf("a.prg"), Old);
     SetMode(PathOf("a.prg"), 0755);
-    SystemCalls calls;
-    calls.Lstat = [](const char *name, struct stat *status) {
-        const int result = ::lstat(name, status);
-        status->st_uid = 1234;
-        status->st_gid = 5678;
-        status->st_mode |= S_ISUID;
-        return result;
-    };
+    SystemCalls calls = WithAnotherOwner();
     std::vector<std::pair<uid_t, gid_t>> owners;
     calls.Fchown = [&owners](int, uid_t user, gid_t group) {
         owners.emplace_back(user, group);

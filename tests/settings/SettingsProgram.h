@@ -12,6 +12,12 @@
 
 namespace Quillbox {
 
+/// Each check box of the dialog with the setting that it shows.
+inline constexpr std::pair<const char *, bool Settings::*> CheckBoxes[] = {
+    {"chkColorSyntax", &Settings::ColorSyntax}, {"chkLineNumbers", &Settings::LineNumbers},
+    {"chkQuickHelp", &Settings::ShowQuickHelp}, {"chkFunciones", &Settings::ShowFunctions},
+    {"chkLabels", &Settings::ShowLabels},       {"chkTypes", &Settings::ShowTypes}};
+
 /// The dialog's rules over fakes, in the program folder "/q/". The settings differ from one another
 /// wherever they can.
 class SettingsProgram : public FakeProgram {

@@ -30,14 +30,10 @@ TEST_F(TheOpenedDialog, ShowsEverythingInItsOrder) {
 }
 
 TEST_F(TheOpenedDialog, ShowsEachCheckBoxFromItsOwnSetting) {
-    constexpr std::pair<const char *, bool Settings::*> boxes[] = {
-        {"chkColorSyntax", &Settings::ColorSyntax}, {"chkLineNumbers", &Settings::LineNumbers},
-        {"chkQuickHelp", &Settings::ShowQuickHelp}, {"chkFunciones", &Settings::ShowFunctions},
-        {"chkLabels", &Settings::ShowLabels},       {"chkTypes", &Settings::ShowTypes}};
-    for (const auto &[checkedBox, field] : boxes) {
+    for (const auto &[checkedBox, field] : CheckBoxes) {
         Options.*field = true;
         Rules.Form_Load();
-        for (const auto &[box, other] : boxes)
+        for (const auto &[box, other] : CheckBoxes)
             EXPECT_EQ(Window.Checks[box], std::string_view(box) == checkedBox) << box;
         Options.*field = false;
     }

@@ -53,15 +53,11 @@ TEST_F(TheStoredSettings, HaveNoToolsFolderForACompilerOfSevenCharacters) {
 }
 
 TEST_F(TheStoredSettings, TakeEachCheckBoxIntoItsOwnSetting) {
-    constexpr std::pair<const char *, bool Settings::*> boxes[] = {
-        {"chkColorSyntax", &Settings::ColorSyntax}, {"chkLineNumbers", &Settings::LineNumbers},
-        {"chkQuickHelp", &Settings::ShowQuickHelp}, {"chkFunciones", &Settings::ShowFunctions},
-        {"chkLabels", &Settings::ShowLabels},       {"chkTypes", &Settings::ShowTypes}};
     Load();
-    for (const auto &[checkedBox, field] : boxes) {
+    for (const auto &[checkedBox, field] : CheckBoxes) {
         Check(checkedBox, true);
         Store();
-        for (const auto &[box, other] : boxes)
+        for (const auto &[box, other] : CheckBoxes)
             EXPECT_EQ(Options.*other, std::string_view(box) == checkedBox) << box;
         Check(checkedBox, false);
     }

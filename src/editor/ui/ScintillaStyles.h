@@ -3,7 +3,7 @@
 
 #include "editor/ui/ScintillaText.h"
 #include "language/ColouringRules.h"
-#include "surfaces/EditorControl.h"
+#include "surfaces/EditorAppearance.h"
 
 #include <array>
 

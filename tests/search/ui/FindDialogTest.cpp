@@ -44,11 +44,7 @@ TEST_F(FindAndReplace, ClosesWithEscape) {
 TEST_F(FindAndReplace, WorksOnTheEditorThatHadTheKeyboardLast) {
     LoadCode("uno");
     Look("uno");
-    const auto other = NewEditor();
-    other->show();
-    ASSERT_TRUE(other->OpenFile(Write("b.bb", "x uno")));
-    QFocusEvent focus(QEvent::FocusIn);
-    QCoreApplication::sendEvent(other.get(), &focus);
+    const auto other = EditorWithKeyboard("x uno");
     Click("cmdSiguiente");
     EXPECT_EQ(other->GetSel(), Range(At(0, 2), At(0, 5)));
 }

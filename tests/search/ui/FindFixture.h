@@ -34,6 +34,16 @@ class FindAndReplace : public EditorTest {
         return editor;
     }
 
+    /// Another editor with a text, to which the person has gone.
+    std::unique_ptr<ScintillaEditor> EditorWithKeyboard(const QByteArray &text) {
+        auto editor = NewEditor();
+        editor->show();
+        EXPECT_TRUE(editor->OpenFile(Write("otro.bb", text)));
+        QFocusEvent focus(QEvent::FocusIn);
+        QCoreApplication::sendEvent(editor.get(), &focus);
+        return editor;
+    }
+
     ScintillaEditor &Code() const {
         return *static_cast<ScintillaEditor *>(Window.centralWidget());
     }

@@ -112,11 +112,7 @@ TEST_F(FindAndReplace, MarksAreNoChangeOfTheText) {
 TEST_F(FindAndReplace, MarksGoAlongToTheEditorWithTheKeyboard) {
     LoadCode("uno");
     Look("uno");
-    const auto other = NewEditor();
-    other->show();
-    ASSERT_TRUE(other->OpenFile(Write("b.bb", "x uno")));
-    QFocusEvent focus(QEvent::FocusIn);
-    QCoreApplication::sendEvent(other.get(), &focus);
+    const auto other = EditorWithKeyboard("x uno");
     EXPECT_THAT(Marked(), IsEmpty());
     const ScintillaText text(*other);
     EXPECT_NE(text.Send(QsciScintillaBase::SCI_INDICATORVALUEAT, Indicator::Match, 2), 0);
