@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Desktop.h"
 
+#include "XDisplay.h"
+
 #include <QDeadlineTimer>
 #include <QSize>
 #include <QThread>
@@ -8,7 +10,7 @@
 namespace Quillbox {
 namespace {
 
-constexpr int StartMilliseconds = 30000;
+constexpr int StartMilliseconds = 60000;
 /// Of the display at 100 %, in pixels.
 constexpr QSize DisplaySize(1600, 1200);
 
@@ -27,12 +29,13 @@ bool RunTool(const QString &tool, const QStringList &arguments) {
     return process.waitForFinished(StartMilliseconds) && process.exitCode() == 0;
 }
 
-/// Only a window manager that is at work publishes the desktop's number.
 bool WaitForWindowManager() {
-    for (QDeadlineTimer deadline(StartMilliseconds); !deadline.hasExpired(); QThread::msleep(20))
-        if (RunTool(QStringLiteral("xdotool"), {QStringLiteral("get_desktop")}))
-            return true;
-    return false;
+    XDisplay display;
+    for (QDeadlineTimer deadline(StartMilliseconds); !display.HasWindowManager();
+         QThread::msleep(10))
+        if (deadline.hasExpired())
+            return false;
+    return true;
 }
 
 } // namespace
@@ -52,7 +55,7 @@ Desktop::~Desktop() {
 }
 
 /// The display chooses a free number itself and prints it. It must not start over when a client
-/// goes that was the only one, as a look at the window manager does that has not come yet.
+/// goes that was the only one.
 bool Desktop::StartDisplay(int scale) {
     const QString screen = QStringLiteral("%1x%2x24")
                                .arg(DisplaySize.width() * scale)

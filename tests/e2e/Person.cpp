@@ -4,83 +4,83 @@
 #include <QClipboard>
 #include <QDeadlineTimer>
 #include <QGuiApplication>
+#include <QMimeData>
 #include <QPixmap>
-#include <QProcess>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QThread>
 
 #include <algorithm>
+#include <memory>
 
 namespace Quillbox {
 namespace {
 
-constexpr int PollMilliseconds = 40;
-constexpr int KeyMilliseconds = 40;
+constexpr int PollMilliseconds = 10;
 
-void PassTime(int milliseconds) {
-    for (QDeadlineTimer deadline(milliseconds); !deadline.hasExpired();) {
-        QGuiApplication::processEvents();
-        QThread::msleep(10);
+QImage PictureAt(QRect place) {
+    return QGuiApplication::primaryScreen()
+        ->grabWindow(0, place.x(), place.y(), place.width(), place.height())
+        .toImage();
+}
+
+/// A text on the clipboard that knows whether somebody has taken it from there.
+class WatchedText final : public QMimeData {
+  public:
+    explicit WatchedText(const QString &text) { setText(text); }
+
+    std::shared_ptr<bool> Taken = std::make_shared<bool>(false); ///< outlives this object
+
+  private:
+    QVariant retrieveData(const QString &format, QMetaType type) const override {
+        *Taken = true;
+        return QMimeData::retrieveData(format, type);
     }
-}
-
-/// The number behind a name in what the tool prints as lines "NAME=number".
-int ValueIn(const QString &lines, const QString &name) {
-    return (u'\n' + lines).section(u'\n' + name + u'=', 1, 1).section(u'\n', 0, 0).toInt();
-}
+};
 
 } // namespace
 
-bool WaitUntil(const std::function<bool()> &condition, int milliseconds) {
-    for (QDeadlineTimer deadline(milliseconds); !condition(); PassTime(PollMilliseconds))
+/// Meanwhile programs may ask this one for what it has put on the clipboard.
+bool WaitUntil(const std::function<bool()> &condition) {
+    for (QDeadlineTimer deadline(PatienceMilliseconds); !condition();) {
         if (deadline.hasExpired())
             return false;
+        QThread::msleep(PollMilliseconds);
+        QGuiApplication::processEvents();
+    }
     return true;
 }
 
-QString Exactly(const QString &title) {
-    QString expression;
-    for (const QChar character : title) {
-        if (QStringLiteral("\\.[](){}*+?|^$").contains(character))
-            expression += u'\\';
-        expression += character;
-    }
-    return u'^' + expression + u'$';
-}
+QString Exactly(const QString &title) { return u'^' + QRegularExpression::escape(title) + u'$'; }
 
-qint64 Person::WaitForWindow(const QString &title, int milliseconds) {
-    qint64 window = 0;
-    WaitUntil([&] { return (window = FindWindow(title)) != 0; }, milliseconds);
+XWindow Person::WaitForWindow(const QString &title) {
+    XWindow window = 0;
+    WaitUntil([&] { return (window = FindWindow(title)) != 0; });
     return window;
 }
 
-bool Person::WaitForNoWindow(const QString &title, int milliseconds) {
-    return WaitUntil([&] { return FindWindow(title) == 0; }, milliseconds);
+bool Person::WaitForNoWindow(const QString &title) {
+    return WaitUntil([&] { return FindWindow(title) == 0; });
 }
 
 bool Person::IsWindowThere(const QString &title) { return FindWindow(title) != 0; }
 
 bool Person::WaitForWindowCount(const QString &title, int count) {
-    return WaitUntil([&] { return FindWindows(title).size() == count; });
+    return WaitUntil([&] { return static_cast<int>(FindWindows(title).size()) == count; });
 }
 
-bool Person::WaitForMenu(int milliseconds) {
-    return WaitUntil([this] { return IsMenuThere(); }, milliseconds);
+bool Person::WaitForMenu() {
+    return WaitUntil([this] { return IsMenuThere(); });
 }
 
 bool Person::WaitForNoMenu() {
     return WaitUntil([this] { return !IsMenuThere(); });
 }
 
-qint64 Person::ProcessOf(const QString &title) {
-    const qint64 window = FindWindow(title);
-    return window == 0
-               ? 0
-               : Tool({QStringLiteral("getwindowpid"), QString::number(window)}).toLongLong();
-}
+qint64 Person::ProcessOf(const QString &title) { return Display_.ProcessOf(FindWindow(title)); }
 
 bool Person::PressIn(const QString &title, const QStringList &keys) {
-    const qint64 window = WaitForWindow(title);
+    const XWindow window = WaitForWindow(title);
     if (window == 0 || !GiveKeyboard(window))
         return false;
     Press(keys);
@@ -88,27 +88,31 @@ bool Person::PressIn(const QString &title, const QStringList &keys) {
 }
 
 void Person::Press(const QStringList &keys) {
-    for (const QString &key : keys) {
-        Tool({QStringLiteral("key"), QStringLiteral("--clearmodifiers"), key});
-        Pause(KeyMilliseconds);
-    }
+    WaitForKeyboard();
+    Display_.ReleaseEveryKey();
+    for (const QString &key : keys)
+        Keyboard_.Press(key);
+    Display_.Finish();
 }
 
 void Person::Type(const QString &text) {
-    const QStringList lines = text.split(u'\n');
-    for (qsizetype line = 0; line < lines.size(); ++line) {
-        if (line > 0)
-            Press({QStringLiteral("Return")});
-        if (!lines[line].isEmpty())
-            Tool({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("8"),
-                  lines[line]});
+    WaitForKeyboard();
+    for (const QChar character : text) {
+        if (character == u'\n')
+            Keyboard_.Press(QStringLiteral("Return"));
+        else if (!Keyboard_.Type(character))
+            Paste(character);
     }
+    Display_.Finish();
 }
 
 void Person::Paste(const QString &text) {
-    QGuiApplication::clipboard()->setText(text);
-    Pause(KeyMilliseconds);
+    auto *offered = new WatchedText(text);
+    const std::shared_ptr<const bool> taken = offered->Taken;
+    QGuiApplication::clipboard()->setMimeData(offered);
     Press({QStringLiteral("ctrl+v")});
+    WaitUntil([&] { return *taken; });
+    CatchUp(WaitForKeyboard());
 }
 
 bool Person::ChooseFile(const QString &title, const QString &path) {
@@ -120,120 +124,126 @@ bool Person::ChooseFile(const QString &title, const QString &path) {
 }
 
 bool Person::ClickIn(const QString &title, QPoint place, int button) {
-    const qint64 window = WaitForWindow(title);
-    if (window == 0)
+    const XWindow window = WaitForWindow(title);
+    if (window == 0 || !GiveKeyboard(window))
         return false;
-    const QPoint size = SizeOf(window);
-    const int x = place.x() < 0 ? size.x() + place.x() : place.x();
-    const int y = place.y() < 0 ? size.y() + place.y() : place.y();
-    Tool({QStringLiteral("mousemove"), QStringLiteral("--window"), QString::number(window),
-          QString::number(x), QString::number(y)});
-    Pause(KeyMilliseconds);
-    Tool({QStringLiteral("click"), QString::number(button)});
-    Pause(KeyMilliseconds);
+    const QRect inside = Display_.PlaceOf(window);
+    const int x = place.x() < 0 ? inside.width() + place.x() : place.x();
+    const int y = place.y() < 0 ? inside.height() + place.y() : place.y();
+    Display_.MovePointer(inside.topLeft() + QPoint(x, y));
+    for (const Motion motion : {Motion::Press, Motion::Release})
+        Display_.MoveButton(static_cast<std::uint8_t>(button), motion);
+    Display_.Finish();
     return true;
 }
 
+/// A program that has taken in the keys has also taken the clipboard, if it wanted to.
 QString Person::CopyAll() {
     QClipboard &clipboard = *QGuiApplication::clipboard();
     clipboard.clear();
-    Pause(KeyMilliseconds);
     Press({QStringLiteral("ctrl+a"), QStringLiteral("ctrl+c")});
-    WaitUntil([&] { return !clipboard.text().isEmpty(); }, 3000);
-    return clipboard.text();
+    QString text;
+    if (CatchUp(WaitForKeyboard()))
+        WaitUntil([&] {
+            text = clipboard.text();
+            return !text.isEmpty() || !Display_.HasClipboardOwner();
+        });
+    return text;
 }
 
 /// The text stands in the upper part of the box, to the right of its picture.
 QString Person::ReadMessage(const QString &title) {
-    const qint64 window = WaitForWindow(title);
+    const XWindow window = WaitForWindow(title);
     if (window == 0)
         return {};
-    const QPoint size = SizeOf(window);
-    ClickIn(title, QPoint(size.x() / 2, (size.y() - 40) / 2));
+    const QRect inside = Display_.PlaceOf(window);
+    ClickIn(title, QPoint(inside.width() / 2, (inside.height() - 40) / 2));
     return CopyAll();
 }
 
 bool Person::Screenshot(const QString &file) {
-    Pause();
-    return QGuiApplication::primaryScreen()->grabWindow(0).save(file);
+    const auto desktop = [] { return PictureAt(QRect(0, 0, -1, -1)); };
+    return Settled(Display_.WindowWithKeyboard(), desktop).save(file);
 }
 
 QImage Person::PictureOf(const QString &title) {
-    const qint64 window = FindWindow(title);
+    const XWindow window = FindWindow(title);
     if (window == 0)
         return {};
-    const QPoint corner = CornerOf(window);
-    const QPoint size = SizeOf(window);
-    Pause();
-    return QGuiApplication::primaryScreen()
-        ->grabWindow(0, corner.x(), corner.y(), size.x(), size.y())
-        .toImage();
+    Display_.MovePointer(Display_.PlaceOf(window).topLeft());
+    return Settled(window, [&] { return PictureAt(Display_.PlaceOf(window)); });
 }
 
 bool Person::Resize(const QString &title, QSize size) {
-    const qint64 window = WaitForWindow(title);
+    const XWindow window = WaitForWindow(title);
     if (window == 0)
         return false;
-    Tool({QStringLiteral("windowsize"), QString::number(window), QString::number(size.width()),
-          QString::number(size.height())});
-    return WaitUntil([&] { return SizeOf(window) == QPoint(size.width(), size.height()); });
+    Display_.Resize(window, size);
+    return WaitUntil([&] { return Display_.PlaceOf(window).size() == size; });
 }
 
-void Person::Pause(int milliseconds) { PassTime(milliseconds); }
-
-QString Person::Tool(const QStringList &arguments) {
-    QProcess tool;
-    tool.setStandardErrorFile(QProcess::nullDevice());
-    tool.start(QStringLiteral("xdotool"), arguments);
-    if (!tool.waitForFinished(PatienceMilliseconds))
-        tool.kill();
-    return QString::fromUtf8(tool.readAllStandardOutput());
+std::vector<VisibleWindow> Person::FindWindows(const QString &title) {
+    const QRegularExpression expression(title);
+    std::vector<VisibleWindow> windows = Display_.VisibleWindows();
+    const auto isAnother = [&](const VisibleWindow &window) {
+        return window.IsPopup || !expression.match(window.Title).hasMatch();
+    };
+    windows.erase(std::remove_if(windows.begin(), windows.end(), isAnother), windows.end());
+    return windows;
 }
 
-QStringList Person::FindWindows(const QString &title) {
-    return Tool({QStringLiteral("search"), QStringLiteral("--onlyvisible"),
-                 QStringLiteral("--name"), title})
-        .split(u'\n', Qt::SkipEmptyParts);
-}
-
-qint64 Person::FindWindow(const QString &title) {
-    const QStringList windows = FindWindows(title);
-    return windows.isEmpty() ? 0 : windows.first().toLongLong();
+XWindow Person::FindWindow(const QString &title) {
+    const std::vector<VisibleWindow> windows = FindWindows(title);
+    return windows.empty() ? 0 : windows.front().Number;
 }
 
 bool Person::IsMenuThere() {
-    const QStringList titled = FindWindows(QStringLiteral("."));
-    const QStringList all = Tool({QStringLiteral("search"), QStringLiteral("--onlyvisible"),
-                                  QStringLiteral("--class"), QStringLiteral("^quillbox$")})
-                                .split(u'\n', Qt::SkipEmptyParts);
-    return std::any_of(all.begin(), all.end(),
-                       [&](const QString &window) { return !titled.contains(window); });
-}
-
-QPoint Person::SizeOf(qint64 window) {
-    const QString geometry = Tool(
-        {QStringLiteral("getwindowgeometry"), QStringLiteral("--shell"), QString::number(window)});
-    return {ValueIn(geometry, QStringLiteral("WIDTH")),
-            ValueIn(geometry, QStringLiteral("HEIGHT"))};
-}
-
-/// The pointer tells the place: what the tool says of a window's own place counts its frame twice.
-QPoint Person::CornerOf(qint64 window) {
-    Tool({QStringLiteral("mousemove"), QStringLiteral("--window"), QString::number(window),
-          QStringLiteral("0"), QStringLiteral("0")});
-    const QString place = Tool({QStringLiteral("getmouselocation"), QStringLiteral("--shell")});
-    return {ValueIn(place, QStringLiteral("X")), ValueIn(place, QStringLiteral("Y"))};
+    const std::vector<VisibleWindow> windows = Display_.VisibleWindows();
+    return std::any_of(windows.begin(), windows.end(), [](const VisibleWindow &window) {
+        return window.IsPopup && window.Program == "quillbox";
+    });
 }
 
 /// A window that is just coming up may miss the first request.
-bool Person::GiveKeyboard(qint64 window) {
-    const QString number = QString::number(window);
+bool Person::GiveKeyboard(XWindow window) {
     return WaitUntil([&] {
-        const QString active = Tool({QStringLiteral("getactivewindow")}).trimmed();
-        if (active != number)
-            Tool({QStringLiteral("windowactivate"), number});
-        return active == number;
+               if (Display_.WindowWithKeyboard() == window)
+                   return true;
+               Display_.Activate(window);
+               return false;
+           }) &&
+           CatchUp(window);
+}
+
+/// The window that has the keyboard. After a window has gone nobody has it for a moment.
+XWindow Person::WaitForKeyboard() {
+    XWindow window = 0;
+    WaitUntil([&] { return (window = Display_.WindowWithKeyboard()) != 0; });
+    return window;
+}
+
+/// Waits until the window's program has done what it was told to do: when it gives the first sign
+/// of life it has received every key, at the second one it has obeyed, at the third one it has
+/// shown the outcome. A window that goes has obeyed, too.
+bool Person::CatchUp(XWindow window) {
+    const auto answers = [&] {
+        Display_.Ping(window);
+        return WaitUntil([&] { return Display_.IsPingAnswered() || !Display_.IsVisible(window); });
+    };
+    return answers() && answers() && answers();
+}
+
+/// What there is to see once it stays the same while the program does what is left to do.
+QImage Person::Settled(XWindow window, const std::function<QImage()> &look) {
+    QImage before;
+    QImage now;
+    WaitUntil([&] {
+        CatchUp(window);
+        before = now;
+        now = look();
+        return now == before;
     });
+    return now;
 }
 
 } // namespace Quillbox

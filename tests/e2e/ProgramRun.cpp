@@ -5,6 +5,8 @@
 #include <QDirIterator>
 #include <QFile>
 
+#include <filesystem>
+
 namespace Quillbox {
 namespace {
 
@@ -19,6 +21,14 @@ QProcessEnvironment EnvironmentOf(const ProgramRun &run, const QString &folder) 
     environment.insert(QStringLiteral("XDG_CONFIG_HOME"),
                        QDir::cleanPath(folder + QStringLiteral("/../ajustes")));
     return environment;
+}
+
+bool CopyFile(const QFileInfo &from, const QString &to) {
+    std::error_code problem;
+    if (from.isExecutable())
+        std::filesystem::create_hard_link(from.filesystemAbsoluteFilePath(),
+                                          QFileInfo(to).filesystemAbsoluteFilePath(), problem);
+    return (from.isExecutable() && !problem) || QFile::copy(from.filePath(), to);
 }
 
 } // namespace
@@ -58,7 +68,7 @@ bool CopyFolder(const QString &from, const QString &to) {
         const QString path = entries.next();
         const QString name = source.relativeFilePath(path);
         copied = entries.fileInfo().isDir() ? target.mkpath(name)
-                                            : QFile::copy(path, target.filePath(name));
+                                            : CopyFile(entries.fileInfo(), target.filePath(name));
     }
     return copied;
 }
@@ -84,6 +94,16 @@ QList<qint64> ChildrenOf(qint64 process) {
 QString StateOf(qint64 process) {
     const QByteArray status = ReadSystemFile(QStringLiteral("/proc/%1/stat").arg(process));
     return QString::fromLatin1(status.mid(status.lastIndexOf(')') + 2, 1));
+}
+
+SystemCall SystemCallOf(qint64 process) {
+    const QString folder = QStringLiteral("/proc/%1/").arg(process);
+    const QList<QByteArray> fields =
+        ReadSystemFile(folder + QStringLiteral("syscall")).simplified().split(' ');
+    if (fields.size() < 2)
+        return {};
+    const QFileInfo file(folder + QStringLiteral("fd/%1").arg(fields[1].toULongLong(nullptr, 16)));
+    return {fields[0].toLong(), file.symLinkTarget().section(u'/', -1)};
 }
 
 QString ProgramOf(qint64 process) {

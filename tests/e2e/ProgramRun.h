@@ -35,7 +35,8 @@ class ProgramRun {
     QProcess Process_;
 };
 
-/// Copies a folder with everything in it.
+/// Copies a folder with everything in it. A program is linked instead where the system can: it is
+/// large, and nobody writes into it.
 bool CopyFolder(const QString &from, const QString &to);
 
 /// Writes a new settings file that names the structure checker and the run notice beside the
@@ -48,6 +49,13 @@ QList<qint64> ChildrenOf(qint64 process);
 /// The letter that the system gives for what the process does: S sleeps, Z has ended and nobody
 /// waited for it. Empty when there is no such process.
 QString StateOf(qint64 process);
+
+/// The system call in which a process sleeps.
+struct SystemCall {
+    long Number = -1; ///< -1 while it does not sleep in one
+    QString File;     ///< behind the descriptor in its first argument: "pipe:[4711]"
+};
+SystemCall SystemCallOf(qint64 process);
 
 /// The file name of the program that the process runs.
 QString ProgramOf(qint64 process);

@@ -99,7 +99,17 @@ bool ProgramTest::ClosesWithQuestion(const QString &document) {
 }
 
 bool ProgramTest::ClosesAtOnce(const QString &document) {
-    return Press({QStringLiteral("ctrl+w")}) && Person_.WaitForNoWindow(TitleWith(document), 5000);
+    return Press({QStringLiteral("ctrl+w")}) && Person_.WaitForNoWindow(TitleWith(document));
+}
+
+bool ProgramTest::ReplacesAll() {
+    const auto outcome = [this] {
+        constexpr QRect place(5, 198, 300, 22);
+        return Person_.PictureOf(FindTitle).copy(place);
+    };
+    const QImage before = outcome();
+    Person_.Press({QStringLiteral("alt+t")});
+    return WaitUntil([&] { return outcome() != before; });
 }
 
 bool ProgramTest::Leaves() {

@@ -17,6 +17,7 @@ inline const QString OpenTitle = QStringLiteral("^Abrir$");
 inline const QString SaveTitle = QStringLiteral("^Guardar como$");
 /// The question whether to save a changed document.
 inline const QString QuestionTitle = QStringLiteral("^Atención$");
+inline const QString FindTitle = QStringLiteral("^Buscar y reemplazar$");
 inline const QString ErrorTitle = QStringLiteral("^Error$");
 /// A compiler's error line, a run-time error, and what FXI.exe shows.
 inline const QString NoticeTitle = QStringLiteral("^Quillbox$");
@@ -59,6 +60,8 @@ class ProgramTest : public testing::Test {
     /// any, is answered with No. False, too, when the document stays.
     bool ClosesWithQuestion(const QString &document);
     bool ClosesAtOnce(const QString &document);
+    /// Presses "Reemplazar todo" in the dialog for finding and waits until it tells the outcome.
+    bool ReplacesAll();
     /// Leaves with nothing to ask.
     bool Leaves();
 

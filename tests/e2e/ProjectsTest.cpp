@@ -47,12 +47,8 @@ class Projects : public ProgramTest {
     }
     bool ShowInformation() { return Show(510, InformationTitle); }
     bool ShowToDo() { return Show(543, ToDoTitle); }
-    /// A window that a chooser has just left may miss the first key.
     bool CloseWindow(const QString &title) {
-        return WaitUntil([&] {
-            return Person_.PressIn(title, {QStringLiteral("Escape")}) &&
-                   Person_.WaitForNoWindow(title, 2000);
-        });
+        return Person_.PressIn(title, {QStringLiteral("Escape")}) && Person_.WaitForNoWindow(title);
     }
     bool AddTask(const QString &description) {
         if (!Person_.PressIn(ToDoTitle, {QStringLiteral("alt+a")}) ||

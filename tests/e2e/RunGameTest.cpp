@@ -56,9 +56,9 @@ TEST_F(RunGame, StartsNothingAfterAnError) {
     EXPECT_EQ(Person_.ProcessOf(NoticeTitle), Run_.ProcessId());
     ASSERT_TRUE(Person_.PressIn(NoticeTitle, {QStringLiteral("Return")}));
     ASSERT_TRUE(Person_.WaitForNoWindow(NoticeTitle));
-    EXPECT_TRUE(Press({}));
-    EXPECT_FALSE(Person_.WaitForWindow(NoticeTitle, 1500));
+    EXPECT_TRUE(OpenNew()); // once the command has ended
     EXPECT_TRUE(ChildrenOf(Run_.ProcessId()).isEmpty());
+    EXPECT_FALSE(Person_.IsWindowThere(NoticeTitle));
 }
 
 TEST_F(RunGame, PassesTheCompiledFileBesideTheSource) {

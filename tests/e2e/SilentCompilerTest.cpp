@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ProgramTest.h"
 
+#include <sys/syscall.h>
+
 namespace Quillbox {
 namespace {
 
@@ -13,14 +15,20 @@ class SilentCompiler : public ProgramTest {
         return Start() && Open(Game_) && Press({QStringLiteral("F7")});
     }
 
-    /// Neither a key nor the close box changes anything for three seconds.
-    bool IsFrozen() {
-        Person_.Press({QStringLiteral("ctrl+n"), QStringLiteral("alt+F4")});
-        return !WaitUntil([this] { return !Run_.IsRunning() || !Shows(Game_) || ShowsUntitled(); },
-                          3000);
+    /// The process sleeps at a pipe in this system call.
+    static bool SleepsAtPipe(qint64 process, long call) {
+        const SystemCall now = SystemCallOf(process);
+        return now.Number == call && now.File.startsWith(QStringLiteral("pipe:"));
     }
 
-    bool ShowsUntitled() { return Person_.IsWindowThere(QStringLiteral("< sin título >")); }
+    /// Neither a key nor the close box wakes the program from the system call in which it sleeps.
+    void ExpectFrozenIn(long call) {
+        ASSERT_TRUE(WaitUntil([&] { return SystemCallOf(Run_.ProcessId()).Number == call; }));
+        Person_.Press({QStringLiteral("ctrl+n"), QStringLiteral("alt+F4")});
+        EXPECT_TRUE(Shows(Game_));
+        EXPECT_FALSE(Person_.IsWindowThere(Untitled));
+        EXPECT_EQ(SystemCallOf(Run_.ProcessId()).Number, call);
+    }
 
     QString Marker() const { return PersonsFile(QStringLiteral("marca")); }
 
@@ -35,8 +43,9 @@ TEST_F(SilentCompiler, ThatWritesNothingFreezesTheProgram) {
     ASSERT_EQ(BytesOnceThey("fin\n", Marker()), "fin\n");
     ASSERT_TRUE(WaitUntil([this] { return ChildrenOf(Run_.ProcessId()).isEmpty(); }));
 
-    EXPECT_TRUE(IsFrozen());
-    EXPECT_EQ(StateOf(Run_.ProcessId()), QStringLiteral("S"));
+    // Nobody is left who could write into the pipe that it reads.
+    ASSERT_TRUE(WaitUntil([this] { return SleepsAtPipe(Run_.ProcessId(), SYS_read); }));
+    ExpectFrozenIn(SYS_read);
     EXPECT_EQ(BytesOf(ProgramFile(QStringLiteral("CLog.tmp"))), "");
 }
 
@@ -45,11 +54,14 @@ TEST_F(SilentCompiler, ThatWritesMoreThanThePipeHoldsFreezesTheProgram) {
     ASSERT_TRUE(CheckDocument());
     ASSERT_EQ(BytesOnceThey("inicio\n", Marker()), "inicio\n");
 
-    EXPECT_TRUE(IsFrozen());
+    // Each waits for the other: the compiler for room in the pipe, which only the program empties,
+    // and the program for the end of the compiler.
     const QList<qint64> children = ChildrenOf(Run_.ProcessId());
     ASSERT_EQ(children.size(), 1);
+    ASSERT_TRUE(WaitUntil([&] { return SleepsAtPipe(children.first(), SYS_write); }));
     EXPECT_EQ(ProgramOf(children.first()), QStringLiteral("head"));
-    EXPECT_EQ(StateOf(children.first()), QStringLiteral("S"));
+    ExpectFrozenIn(SYS_wait4);
+    EXPECT_TRUE(SleepsAtPipe(children.first(), SYS_write));
 }
 
 TEST_F(SilentCompiler, ThatFitsIntoThePipeIsCutAtThirtyKilobytes) {

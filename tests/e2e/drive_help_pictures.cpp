@@ -28,7 +28,6 @@ constexpr int ProjectButton = 510;
 constexpr int TasksButton = 543;
 constexpr int GraphicsLine = 12; ///< of the example, 1-based
 constexpr int BlankLine = 4;
-constexpr int PatienceForWindow = 5000; ///< a feature that is there opens its window at once
 
 const QString AnyMainTitle = QStringLiteral("^Quillbox v" QUILLBOX_VERSION);
 const QString SplashTitle = QStringLiteral("El equipo de Quillbox");
@@ -130,10 +129,10 @@ class HelpPictures {
 
     /// A window of its own, which is closed again.
     void TakeWindow(const char *name, const QString &title, const Step &show) {
-        const bool shown = show() && Person_.WaitForWindow(title, PatienceForWindow) != 0;
+        const bool shown = show() && Person_.WaitForWindow(title) != 0;
         Report(name, shown ? Person_.PictureOf(title) : QImage());
         Person_.Press({QStringLiteral("Escape")});
-        Person_.WaitForNoWindow(title, PatienceForWindow);
+        Person_.WaitForNoWindow(title);
     }
 
     bool MakeMedia() const {
@@ -175,7 +174,7 @@ class HelpPictures {
     }
 
     /// A list over the text is a window without a title, as a menu is.
-    bool WaitForPopup() { return Person_.WaitForMenu(PatienceForWindow); }
+    bool WaitForPopup() { return Person_.WaitForMenu(); }
 
     bool ShowFindDialog() {
         if (!Person_.PressIn(AnyMainTitle, {QStringLiteral("ctrl+f")}) ||
@@ -206,7 +205,7 @@ class HelpPictures {
 
     void TakeSettings() {
         const bool shown = Choose(QStringLiteral("alt+h"), QStringLiteral("c")) &&
-                           Person_.WaitForWindow(SettingsTitle, PatienceForWindow) != 0;
+                           Person_.WaitForWindow(SettingsTitle) != 0;
         for (const char *name :
              {"configuracion_directorios", "configuracion_editor", "configuracion_contexto"}) {
             Report(name, shown ? Person_.PictureOf(SettingsTitle) : QImage());
@@ -219,7 +218,7 @@ class HelpPictures {
     /// With the first picture of the folder chosen.
     void TakeMedia() {
         const bool shown = Choose(QStringLiteral("alt+h"), QStringLiteral("e")) &&
-                           Person_.WaitForWindow(MediaTitle, PatienceForWindow) != 0;
+                           Person_.WaitForWindow(MediaTitle) != 0;
         if (!shown)
             LeaveMenu();
         else
