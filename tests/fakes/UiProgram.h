@@ -5,6 +5,7 @@
 
 #include "documents/ui/frmDoc.h"
 #include "fakes/FakeSystem.h"
+#include "fakes/Waiting.h"
 #include "platform/ProfileFiles.h"
 #include "platform/SystemFiles.h"
 #include "platform/SystemFolders.h"
@@ -66,7 +67,7 @@ class UiProgram : public testing::Test {
     QWidget *EditorOf(int position) {
         return WindowOf(position)->findChild<QWidget *>(QStringLiteral("txtCode"));
     }
-    static void Settle() { QTest::qWait(1); }
+    static void Settle() { DoWhatIsDue(); }
 
     QTemporaryDir Folder;
     CallLog Log;

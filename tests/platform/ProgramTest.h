@@ -47,7 +47,7 @@ class ProgramTest : public FolderTest {
 
     template <typename Condition>
     static bool BecomesTrue(Condition condition) {
-        for (int i = 0; i < 1000 && !condition(); ++i)
+        for (int i = 0; i < 6000 && !condition(); ++i)
             std::this_thread::sleep_for(std::chrono::milliseconds(10));
         return condition();
     }

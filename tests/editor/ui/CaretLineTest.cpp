@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "KeyPresses.h"
 
+#include "fakes/Waiting.h"
+
 #include <QImage>
 #include <QTest>
 
@@ -25,7 +27,7 @@ class CaretLine : public EditorKeys, public testing::WithParamInterface<Ground> 
         Load("\n\n\n\n");
         Editor->show();
         Editor->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(Editor.get()));
+        EXPECT_TRUE(QTest::qWaitForWindowActive(Editor.get(), PatienceMilliseconds));
         Editor->setFocus();
     }
     /// The colour to the right of all text in a line.

@@ -3,6 +3,8 @@
 
 #include "editor/ui/CompletionPopup.h"
 
+#include "fakes/Waiting.h"
+
 #include <QAccessible>
 #include <QLabel>
 #include <QListView>
@@ -18,7 +20,7 @@ class Completing : public EditorKeys {
     Completing() {
         Editor->show();
         Editor->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(Editor.get()));
+        EXPECT_TRUE(QTest::qWaitForWindowActive(Editor.get(), PatienceMilliseconds));
         Editor->setFocus();
     }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "EditorFixture.h"
 
+#include "fakes/Waiting.h"
+
 #include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QFocusEvent>
@@ -213,7 +215,7 @@ TEST_F(EditorEvents, OfTheFocusAreTold) {
 TEST_F(EditorEvents, OfSettingTheFocusGiveTheKeyboard) {
     Editor->show();
     Editor->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(Editor.get()));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Editor.get(), PatienceMilliseconds));
     Editor->clearFocus();
     QSignalSpy focus(Editor.get(), &ScintillaEditor::FocusReceived);
     Editor->SetFocus();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "KeyPresses.h"
 
+#include "fakes/Waiting.h"
+
 #include <QApplication>
 #include <QDialog>
 #include <QLabel>
@@ -18,7 +20,7 @@ class GoingToALine : public EditorKeys {
         Load(QByteArray("linea\n").repeated(499) + "fin");
         Editor->show();
         Editor->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(Editor.get()));
+        EXPECT_TRUE(QTest::qWaitForWindowActive(Editor.get(), PatienceMilliseconds));
     }
 
     /// Opens the dialog, where `person` acts; one that it leaves open is cancelled.

@@ -3,6 +3,8 @@
 
 #include "editor/ui/ScintillaPrinting.h"
 
+#include "fakes/Waiting.h"
+
 #include <QApplication>
 #include <QImage>
 #include <QPainter>
@@ -23,7 +25,7 @@ class Printing : public EditorTest {
         QTimer::singleShot(0, Editor.get(), [&] {
             auto *dialog = qobject_cast<QPrintPreviewDialog *>(QApplication::activeModalWidget());
             ASSERT_NE(dialog, nullptr);
-            QTest::qWait(50);
+            ASSERT_TRUE(WaitFor([&] { return PagesOf(*dialog) > 0; }));
             person(*dialog);
             acted = true;
             dialog->reject();

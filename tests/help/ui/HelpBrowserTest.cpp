@@ -2,6 +2,8 @@
 #include "help/ui/HelpFolder.h"
 #include "help/ui/PageImages.h"
 
+#include "fakes/Waiting.h"
+
 #include <QAbstractTextDocumentLayout>
 #include <QClipboard>
 #include <QImage>
@@ -34,7 +36,7 @@ class HelpBrowserTest : public testing::Test {
     void Show(const QByteArray &page) {
         WritePage(PathOf("index.htm"), page);
         Browser.Navigate(PathOf("index.htm"));
-        QTest::qWait(1);
+        DoWhatIsDue();
     }
     QString Text() const { return Browser.toPlainText(); }
     QSizeF SizeOfTheFirstPicture() {

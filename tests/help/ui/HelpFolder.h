@@ -3,6 +3,8 @@
 
 #include "help/ui/HelpBrowser.h"
 
+#include "fakes/Waiting.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QFile>
@@ -29,7 +31,7 @@ inline QPoint PlaceOf(QTextBrowser &browser, const QString &text) {
 
 inline void ClickOn(QTextBrowser &browser, const QString &text) {
     QTest::mouseClick(browser.viewport(), Qt::LeftButton, {}, PlaceOf(browser, text));
-    QTest::qWait(1);
+    DoWhatIsDue();
 }
 
 } // namespace Quillbox

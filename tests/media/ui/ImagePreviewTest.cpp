@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fakes/UiProgram.h"
+#include "fakes/Waiting.h"
 #include "media/ui/PictureFile.h"
 #include "media/ui/frmMediaBrowser.h"
 #include "media/ui/frmMuestraImagenes.h"
@@ -38,7 +39,7 @@ class PicturePreview : public UiProgram {
         files->setCurrentIndex(files->model()->index(0, 0));
         const std::size_t said = Questions.Messages.size();
         QTest::keyClick(files, Qt::Key_Space);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return HasTold(said) || HasSettled(); }));
+        EXPECT_TRUE(WaitFor([&] { return HasTold(said) || HasSettled(); }));
         return Preview();
     }
     bool HasTold(std::size_t before) const { return Questions.Messages.size() > before; }
@@ -76,7 +77,7 @@ TEST_F(PicturePreview, FitsItsPictureAgainAfterItWasResized) {
     frmMuestraImagenes *preview = ShowFile();
     const QSize fitting = preview->size();
     preview->resize(900, 700);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return preview->size() == fitting; }));
+    EXPECT_TRUE(WaitFor([&] { return preview->size() == fitting; }));
 }
 
 /// A window manager that gives a window its own size whatever it asks for.
@@ -135,7 +136,7 @@ TEST_F(PicturePreview, EnlargesATinyPicture) {
 TEST_F(PicturePreview, GoesByEscapeAndLeavesTheBrowserItsKeyboard) {
     WritePicture("nave.png", {320, 200});
     QTest::keyClick(ShowFile(), Qt::Key_Escape);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !Preview(); }));
+    EXPECT_TRUE(WaitFor([this] { return !Preview(); }));
     EXPECT_TRUE(Browser->isActiveWindow());
     EXPECT_TRUE(Browser->findChild<QListView *>("filArchivos")->hasFocus());
 }
@@ -144,7 +145,7 @@ TEST_F(PicturePreview, GoesWhenItLosesTheFocusWithTheMainWindowInFront) {
     WritePicture("nave.png", {320, 200});
     ASSERT_NE(ShowFile(), nullptr);
     Main().activateWindow();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !Preview(); }));
+    EXPECT_TRUE(WaitFor([this] { return !Preview(); }));
     EXPECT_TRUE(Main().isActiveWindow());
 }
 

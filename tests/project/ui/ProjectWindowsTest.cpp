@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/Version.h"
 #include "fakes/UiProgram.h"
+#include "fakes/Waiting.h"
 #include "project/ui/EntryList.h"
 #include "project/ui/frmNewProject.h"
 #include "state/Project.h"
@@ -110,7 +111,7 @@ Qt::CheckState MarkOf(EntryList &list, int row) { return list.item(row)->checkSt
 
 void DoubleClick(EntryList &list, QPoint place) {
     QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, place);
-    QTest::qWait(1);
+    DoWhatIsDue();
 }
 
 TEST_F(ProjectWindows, EnableTheMenuItemsOfAProjectWhileOneIsOpen) {
@@ -332,7 +333,7 @@ TEST_F(ProjectWindows, TakeTheTitleOverHoweverTheInformationIsClosed) {
         closing(dialog);
         EXPECT_EQ(Opened().Title, title);
         EXPECT_TRUE(Opened().Modified);
-        QTest::qWait(1);
+        DoWhatIsDue();
     }
 }
 

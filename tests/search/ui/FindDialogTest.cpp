@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "FindFixture.h"
 
+#include "fakes/Waiting.h"
+
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QHideEvent>
@@ -60,7 +62,7 @@ TEST_F(FindAndReplace, ShowsNeitherNumberNorLimitOfAnEditorThatIsGone) {
     LoadCode("uno\nuno");
     SelectCode(At(0, 0), At(1, 1));
     Look("uno");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return CountShown() == "1 de 1"; }));
+    ASSERT_TRUE(WaitFor([&] { return CountShown() == "1 de 1"; }));
     delete Window.takeCentralWidget();
     EXPECT_EQ(CountShown(), "");
     EXPECT_FALSE(Child<QCheckBox>("chkSeleccion").isChecked());

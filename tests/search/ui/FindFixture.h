@@ -8,6 +8,8 @@
 #include "search/ui/FindDialog.h"
 #include "widgets/SpanishInterface.h"
 
+#include "fakes/Waiting.h"
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -80,7 +82,7 @@ class FindAndReplace : public EditorTest {
     QString CountShown() const { return Child<QLabel>("lblCoincidencias").text(); }
 
     void Paint() {
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(&Window));
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&Window, PatienceMilliseconds));
         Code().viewport()->repaint();
     }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "FindFixture.h"
 
+#include "fakes/Waiting.h"
+
 #include <gmock/gmock.h>
 
 #include <QSignalSpy>
@@ -129,16 +131,16 @@ TEST_F(FindAndReplace, MarksDoNotOutliveTheEditorThatGivesItsTextAway) {
 TEST_F(FindAndReplace, TellsTheNumberOfMatches) {
     LoadCode("uno dos uno");
     Look("uno");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return CountShown() == "2 coincidencias"; }))
+    EXPECT_TRUE(WaitFor([&] { return CountShown() == "2 coincidencias"; }))
         << CountShown().toStdString();
     Click("cmdSiguiente");
     Click("cmdSiguiente");
     Paint();
     EXPECT_EQ(CountShown(), "2 de 2");
     Child<QLineEdit>("txtBuscar").setText("dos");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return CountShown() == "1 coincidencia"; }));
+    EXPECT_TRUE(WaitFor([&] { return CountShown() == "1 coincidencia"; }));
     Child<QLineEdit>("txtBuscar").setText("cuatro");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return CountShown() == "Sin coincidencias"; }));
+    EXPECT_TRUE(WaitFor([&] { return CountShown() == "Sin coincidencias"; }));
     Child<QLineEdit>("txtBuscar").setText("");
     EXPECT_EQ(CountShown(), "");
 }
@@ -146,16 +148,16 @@ TEST_F(FindAndReplace, TellsTheNumberOfMatches) {
 TEST_F(FindAndReplace, CountsAgainWhenTheTextChanges) {
     LoadCode("uno dos uno");
     Look("uno");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return CountShown() == "2 coincidencias"; }));
+    EXPECT_TRUE(WaitFor([&] { return CountShown() == "2 coincidencias"; }));
     Code().InsertText("uno\n", At(0, 0));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return CountShown() == "3 coincidencias"; }))
+    EXPECT_TRUE(WaitFor([&] { return CountShown() == "3 coincidencias"; }))
         << CountShown().toStdString();
 }
 
 TEST_F(FindAndReplace, CountsEveryMatchOfALongText) {
     LoadCode(QByteArray("uno dos uno\r\n").repeated(100'000));
     Look("uno");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return CountShown() == "200.000 coincidencias"; }))
+    EXPECT_TRUE(WaitFor([&] { return CountShown() == "200.000 coincidencias"; }))
         << CountShown().toStdString();
 }
 

@@ -3,6 +3,8 @@
 #include "fakes/HoldsInOrder.h"
 #include "settings/ui/SettingsDialogProgram.h"
 
+#include "fakes/Waiting.h"
+
 #include <QGroupBox>
 #include <QLabel>
 #include <QRegularExpression>
@@ -140,7 +142,7 @@ TEST_F(TheLookOfTheSettingsDialog, ClipsNoText) {
     InSettings({[](QDialog &dialog) {
         for (int tab = 0; tab < 3; ++tab) {
             ShowTab(dialog, tab);
-            QTest::qWait(1);
+            DoWhatIsDue();
             for (const auto *widget : dialog.findChildren<QWidget *>()) {
                 if (!widget->isVisible() || CaptionOf(*widget).isEmpty() ||
                     widget->objectName() == QStringLiteral("lblFont"))

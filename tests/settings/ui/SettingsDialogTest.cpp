@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/ui/SettingsDialogProgram.h"
 
+#include "fakes/Waiting.h"
+
 #include <QComboBox>
 #include <QWindow>
 
@@ -178,7 +180,7 @@ TEST_F(TheSettingsDialog, ComesBackInItsPlaceWithTheTabAndTheButtonThatWereUsed)
                     ShowTab(dialog, 2);
                     In<QPushButton>(dialog, "cmdAplicar").setFocus();
                     dialog.windowHandle()->setPosition(37, 41); // as a window manager does
-                    QTest::qWait(1);
+                    DoWhatIsDue();
                     place = dialog.pos();
                     Apply(dialog);
                 },
