@@ -151,14 +151,20 @@ QString Person::CopyAll() {
     return text;
 }
 
-/// The text stands in the upper part of the box, to the right of its picture.
+/// The text stands in the upper part of the box, to the right of its picture. A box that has just
+/// come up may miss the click.
 QString Person::ReadMessage(const QString &title) {
     const XWindow window = WaitForWindow(title);
     if (window == 0)
         return {};
-    const QRect inside = Display_.PlaceOf(window);
-    ClickIn(title, QPoint(inside.width() / 2, (inside.height() - 40) / 2));
-    return CopyAll();
+    QString message;
+    WaitUntil([&] {
+        const QRect inside = Display_.PlaceOf(window);
+        ClickIn(title, QPoint(inside.width() / 2, (inside.height() - 40) / 2));
+        message = CopyAll();
+        return !message.isEmpty();
+    });
+    return message;
 }
 
 bool Person::Screenshot(const QString &file) {
