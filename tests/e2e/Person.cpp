@@ -131,17 +131,20 @@ bool Person::ClickIn(const QString &title, QPoint place, int button) {
     const int x = place.x() < 0 ? inside.width() + place.x() : place.x();
     const int y = place.y() < 0 ? inside.height() + place.y() : place.y();
     Display_.MovePointer(inside.topLeft() + QPoint(x, y));
+    if (!CatchUp(window))
+        return false;
     for (const Motion motion : {Motion::Press, Motion::Release})
         Display_.MoveButton(static_cast<std::uint8_t>(button), motion);
-    Display_.Finish();
-    return true;
+    return CatchUp(window);
 }
 
 /// A program that has taken in the keys has also taken the clipboard, if it wanted to.
 QString Person::CopyAll() {
     QClipboard &clipboard = *QGuiApplication::clipboard();
     clipboard.clear();
-    Press({QStringLiteral("ctrl+a"), QStringLiteral("ctrl+c")});
+    Press({QStringLiteral("ctrl+a")});
+    CatchUp(WaitForKeyboard());
+    Press({QStringLiteral("ctrl+c")});
     QString text;
     if (CatchUp(WaitForKeyboard()))
         WaitUntil([&] {

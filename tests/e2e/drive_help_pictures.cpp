@@ -199,8 +199,8 @@ class HelpPictures {
     }
 
     bool LeaveMenu() {
-        Person_.Press({QStringLiteral("Escape"), QStringLiteral("Escape")});
-        return Person_.WaitForNoMenu();
+        Person_.Press({QStringLiteral("Escape")});
+        return Person_.WaitForNoMenu() && Person_.PressIn(AnyMainTitle, {QStringLiteral("Escape")});
     }
 
     void TakeSettings() {

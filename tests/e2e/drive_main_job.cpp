@@ -91,8 +91,8 @@ class MainJob {
 
     /// The first key leaves the menu, the second one the menu bar.
     bool LeaveMenu() {
-        Person_.Press({QStringLiteral("Escape"), QStringLiteral("Escape")});
-        return Person_.WaitForNoMenu();
+        Person_.Press({QStringLiteral("Escape")});
+        return Person_.WaitForNoMenu() && Person_.PressIn(MainTitle, {QStringLiteral("Escape")});
     }
 
     bool Check() {
