@@ -55,6 +55,8 @@ void TextFollower::txtCode_MouseUp() {
     QuickHelp_.UpdateQuickHelp(Window_);
 }
 
+void TextFollower::txtCode_CaretMoved() { ShowCaretPosition(); }
+
 void TextFollower::ShowCaretPosition() {
     const TextPosition caret = Window_.Editor().GetSel().End;
     Window_.SetPanelText(

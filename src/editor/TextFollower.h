@@ -24,6 +24,8 @@ class TextFollower {
     /// `keyCode`: Enter 13, Backspace 8, Delete 46; other keys have other numbers.
     void txtCode_KeyUp(int keyCode);
     void txtCode_MouseUp();
+    /// Also by a jump, without a key: an error, the lists, finding, a bookmark, undo.
+    void txtCode_CaretMoved();
 
   private:
     void ShowCaretPosition();

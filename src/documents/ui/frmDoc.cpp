@@ -139,6 +139,7 @@ void frmDoc::ConnectEditor() {
     forward(&ScintillaEditor::ModifiedChanged, text, &TextFollower::txtCode_ModifiedChanged);
     forward(&ScintillaEditor::KeyDown, text, &TextFollower::txtCode_KeyDown);
     forward(&ScintillaEditor::MouseReleased, text, &TextFollower::txtCode_MouseUp);
+    forward(&ScintillaEditor::CaretMoved, text, &TextFollower::txtCode_CaretMoved);
     connect(txtCode, &ScintillaEditor::KeyUp, this,
             [this, &text](int keyCode) { Boundary_.Run([&] { text.txtCode_KeyUp(keyCode); }); });
     EditorView &view = Rules_.View;

@@ -78,8 +78,10 @@ void ScintillaEditor::AddAssistants() {
     new ScintillaMouse(*this);
     connect(this, &QsciScintillaBase::SCN_ZOOM, this, [this] { Styles_.ZoomChanged(); });
     connect(this, &QsciScintillaBase::SCN_UPDATEUI, this, [this](int updated) {
-        if ((updated & (SC_UPDATE_CONTENT | SC_UPDATE_SELECTION)) != 0)
-            MarkBrackets(Text_, Colouring_);
+        if ((updated & (SC_UPDATE_CONTENT | SC_UPDATE_SELECTION)) == 0)
+            return;
+        MarkBrackets(Text_, Colouring_);
+        emit CaretMoved();
     });
 }
 

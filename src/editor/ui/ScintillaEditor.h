@@ -97,6 +97,8 @@ class ScintillaEditor final : public QsciScintillaBase, public EditorControl {
     /// ASCII code, 0 for any other key.
     void KeyUp(int windowsKeyCode);
     void MouseReleased();
+    /// Told before the next paint, once for all that moved it since the last one.
+    void CaretMoved();
     void ContextMenuRequested(QPoint globalPosition);
     void FocusReceived();
 

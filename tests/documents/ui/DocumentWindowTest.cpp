@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fakes/PaintCounter.h"
 #include "fakes/UiProgram.h"
+#include "fakes/Waiting.h"
 
 #include <QLabel>
 #include <QMdiSubWindow>
@@ -9,9 +10,9 @@
 namespace Quillbox {
 namespace {
 
-class DocumentWindowTest : public UiProgram {
+class TheDocumentWindow : public UiProgram {
   protected:
-    DocumentWindowTest() {
+    TheDocumentWindow() {
         Write(QStringLiteral("Keywords.txt"), "Print\r\nWend\r\n");
         Write(QStringLiteral("QuickHelp.txt"), "Print texto\r\nWhile expr ... Wend\r\n");
         Start();
@@ -32,14 +33,14 @@ class DocumentWindowTest : public UiProgram {
     }
 };
 
-TEST_F(DocumentWindowTest, HasEightStatusPanelsByName) {
+TEST_F(TheDocumentWindow, HasEightStatusPanelsByName) {
     OpenText("");
     for (int number = 1; number <= 8; ++number)
         EXPECT_NE(Panel(number), nullptr) << number;
     EXPECT_EQ(Panel(9), nullptr);
 }
 
-TEST_F(DocumentWindowTest, ShowsTheCaretPositionAfterEveryKey) {
+TEST_F(TheDocumentWindow, ShowsTheCaretPositionAfterEveryKey) {
     OpenText("uno\r\ndos\r\n");
     EXPECT_EQ(Panel(3)->text(), QStringLiteral("1 :1"));
     Press(Qt::Key_Down);
@@ -47,7 +48,16 @@ TEST_F(DocumentWindowTest, ShowsTheCaretPositionAfterEveryKey) {
     EXPECT_EQ(Panel(3)->text(), QStringLiteral("2 :4"));
 }
 
-TEST_F(DocumentWindowTest, EnablesTheModifiedPanelWithTheFirstEditAndDisablesItWithUndo) {
+/// A jump to an error, a function or a line: no key of the editor is let go afterwards.
+TEST_F(TheDocumentWindow, ShowsTheCaretPositionAfterAJumpWithoutAKey) {
+    OpenText("uno\r\ndos\r\n");
+    WindowOf(1)->Editor().SetCaretPos({{1}, {2}});
+    EXPECT_TRUE(WaitFor([this] { return Panel(3)->text() == QStringLiteral("2 :3"); }));
+    Trigger(QStringLiteral("mnuEdicion_SeleccionarTodo"));
+    EXPECT_TRUE(WaitFor([this] { return Panel(3)->text() == QStringLiteral("3 :1"); }));
+}
+
+TEST_F(TheDocumentWindow, EnablesTheModifiedPanelWithTheFirstEditAndDisablesItWithUndo) {
     OpenText("uno\r\n");
     EXPECT_FALSE(Panel(2)->isEnabled());
     QTest::keyClicks(EditorOf(1), QStringLiteral("x"));
@@ -56,21 +66,21 @@ TEST_F(DocumentWindowTest, EnablesTheModifiedPanelWithTheFirstEditAndDisablesItW
     EXPECT_FALSE(Panel(2)->isEnabled());
 }
 
-TEST_F(DocumentWindowTest, ShowsTheQuickHelpOfTheKeywordAtTheCaret) {
+TEST_F(TheDocumentWindow, ShowsTheQuickHelpOfTheKeywordAtTheCaret) {
     OpenText("a\r\nPRINT 1\r\n");
     Press(Qt::Key_Down);
     Press(Qt::Key_Right);
     EXPECT_EQ(Panel(1)->text(), QStringLiteral("Print texto"));
 }
 
-TEST_F(DocumentWindowTest, SelectsAllWithControlA) {
+TEST_F(TheDocumentWindow, SelectsAllWithControlA) {
     OpenText("uno\r\ndos");
     Press(Qt::Key_A, Qt::ControlModifier);
     const TextRange all{{{0}, {0}}, {{1}, {3}}};
     EXPECT_EQ(WindowOf(1)->Editor().GetSel(), all);
 }
 
-TEST_F(DocumentWindowTest, ShowsTheEditMenuOnARightClick) {
+TEST_F(TheDocumentWindow, ShowsTheEditMenuOnARightClick) {
     OpenText("uno\r\n");
     auto *menu = Find<QMenu>(QStringLiteral("mnuEdicion"));
     QContextMenuEvent event(QContextMenuEvent::Mouse, {10, 10}, {10, 10});
@@ -81,7 +91,7 @@ TEST_F(DocumentWindowTest, ShowsTheEditMenuOnARightClick) {
     menu->close();
 }
 
-TEST_F(DocumentWindowTest, ReachesDownToTheStatusBarOverTheWholeWidth) {
+TEST_F(TheDocumentWindow, ReachesDownToTheStatusBarOverTheWholeWidth) {
     OpenText("uno\r\n");
     const QWidget *editor = EditorOf(1);
     const QWidget *bar = WindowOf(1)->findChild<QWidget *>(QStringLiteral("stbBarraEstado"));
@@ -91,7 +101,7 @@ TEST_F(DocumentWindowTest, ReachesDownToTheStatusBarOverTheWholeWidth) {
 }
 
 // Panels 4 and 5 keep their widths, 6 to 8 are not shown.
-TEST_F(DocumentWindowTest, GivesTheFirstPanelWhatTheOthersLeave) {
+TEST_F(TheDocumentWindow, GivesTheFirstPanelWhatTheOthersLeave) {
     OpenText("uno\r\n");
     const int barWidth = Panel(1)->parentWidget()->width();
     const int first = Panel(1)->width();
@@ -110,7 +120,7 @@ TEST_F(DocumentWindowTest, GivesTheFirstPanelWhatTheOthersLeave) {
     EXPECT_EQ(Panel(1)->width(), first - 100);
 }
 
-TEST_F(DocumentWindowTest, BecomesNarrowerThanItsPanels) {
+TEST_F(TheDocumentWindow, BecomesNarrowerThanItsPanels) {
     OpenText("uno\r\n");
     auto *window = Find<QMdiSubWindow>("frmDoc");
     window->showNormal();
@@ -119,7 +129,7 @@ TEST_F(DocumentWindowTest, BecomesNarrowerThanItsPanels) {
     EXPECT_EQ(window->width(), 200);
 }
 
-TEST_F(DocumentWindowTest, RescansWhenEnterAddsALine) {
+TEST_F(TheDocumentWindow, RescansWhenEnterAddsALine) {
     OpenText("process Uno()\r\n");
     ASSERT_EQ(Registry().Documents[1].FunctionLines[0], QStringLiteral("0"));
     Press(Qt::Key_Return);
@@ -128,7 +138,7 @@ TEST_F(DocumentWindowTest, RescansWhenEnterAddsALine) {
 
 // Each paint of the window scans its text, and a scan that had the window painted again would never
 // end.
-TEST_F(DocumentWindowTest, ComesToRestAfterAPaintAndItsScan) {
+TEST_F(TheDocumentWindow, ComesToRestAfterAPaintAndItsScan) {
     OpenText("process Uno()\r\ntype Dos\r\n");
     PaintCounter paints(*WindowOf(1)->widget());
     WindowOf(1)->widget()->update();
@@ -143,7 +153,7 @@ TEST_F(DocumentWindowTest, ComesToRestAfterAPaintAndItsScan) {
     EXPECT_LE(paints.Count, 2);
 }
 
-TEST_F(DocumentWindowTest, MovesTheTextWithItsUndoHistoryWhenAnEarlierDocumentCloses) {
+TEST_F(TheDocumentWindow, MovesTheTextWithItsUndoHistoryWhenAnEarlierDocumentCloses) {
     OpenText("uno\r\n");
     Write(QStringLiteral("b.prg"), "dos\r\n");
     Open(QStringLiteral("b.prg"));
@@ -159,7 +169,7 @@ TEST_F(DocumentWindowTest, MovesTheTextWithItsUndoHistoryWhenAnEarlierDocumentCl
     EXPECT_FALSE(Panel(2)->isEnabled());
 }
 
-TEST_F(DocumentWindowTest, StandsOnTheLineOfTheFirstError) {
+TEST_F(TheDocumentWindow, StandsOnTheLineOfTheFirstError) {
     OpenText("uno\r\ndos\r\ntres\r\ncuatro\r\n");
     Console.Output = "Error in file " + PathOf(QStringLiteral("a.prg")).toLatin1() +
                      " at line 3: falta algo\r\n";
@@ -171,7 +181,7 @@ TEST_F(DocumentWindowTest, StandsOnTheLineOfTheFirstError) {
     EXPECT_TRUE(Questions.Messages[0].Text.endsWith(QStringLiteral("at line 3: falta algo")));
 }
 
-TEST_F(DocumentWindowTest, TintsTheErrorLineAtTheTopUntilTheNextEdit) {
+TEST_F(TheDocumentWindow, TintsTheErrorLineAtTheTopUntilTheNextEdit) {
     OpenText("uno\r\ndos\r\ntres\r\n");
     const auto firstLineColor = [this] {
         return EditorOf(1)->grab().toImage().pixelColor(EditorOf(1)->width() - 60, 6);
