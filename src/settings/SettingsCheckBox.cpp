@@ -8,7 +8,8 @@ namespace {
 
 constexpr SettingsCheckBox CheckBoxes[] = {
     {"chkColorSyntax", &Settings::ColorSyntax, "Colorear &Sintaxis",
-     "Activa/Desactiva el color de la sintaxis", SettingsFrame::FontAndColors},
+     "Activa/Desactiva el color de la sintaxis", SettingsFrame::FontAndColors,
+     Storing::BeforeTabSize},
     {"chkLineNumbers", &Settings::LineNumbers, "Números de Línea", "¿Mostrar los números de línea?",
      SettingsFrame::Others},
     {"chkFunciones", &Settings::ShowFunctions, "Procesos",

@@ -10,9 +10,9 @@ struct Settings;
 /// The frames of frmSettings in which check boxes stand.
 enum class SettingsFrame { FontAndColors, Others, Help, Symbols };
 
-/// Whether a setting changes before or after the symbols are scanned again. What comes after still
-/// has its previous value in that scan.
-enum class Storing { BeforeScan, AfterScan };
+/// When a setting is stored: before the tab size, before the symbols are scanned again, or after
+/// that. What comes after still has its previous value in that scan.
+enum class Storing { BeforeTabSize, BeforeScan, AfterScan };
 
 /// A check box of frmSettings and the setting behind it.
 struct SettingsCheckBox {

@@ -74,6 +74,7 @@ void SettingsDialog::StoreSettings() {
     Settings_.FenixCPath = Window_.Text(SettingsText::CompilerPath);
     Settings_.HelpPath = Window_.Text(SettingsText::HelpPath);
     Settings_.MainPath = ToolsFolderOf(Settings_.FenixCPath);
+    StoreCheckBoxes(Storing::BeforeTabSize);
     Settings_.TabSize = ToByte(TabSizeNumber());
     StoreCheckBoxes(Storing::BeforeScan);
     Effect_.RefreshSymbols();

@@ -120,7 +120,7 @@ TEST_P(NumberedCommand, IsHandedToTheEditorByItsNumber) {
     RunCommand(GetParam().Item);
 
     EXPECT_THAT(Log.Calls(),
-                ElementsAre("editor.ExecuteCommand " + std::to_string(GetParam().Number)));
+                ElementsAre("editor.ExecuteCommand " + NameOf(EditorCommand{GetParam().Number})));
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -14,7 +14,7 @@ namespace {
 
 using testing::ElementsAre;
 
-class ExternalToolsTest : public testing::Test {
+class TheExternalTools : public testing::Test {
   protected:
     static QString Joined(std::initializer_list<QString> names) {
         return QStringList(names).join(PathSeparator);
@@ -30,25 +30,25 @@ class ExternalToolsTest : public testing::Test {
     ExternalTools Tools{Companions, Launcher};
 };
 
-TEST_F(ExternalToolsTest, TheCalculatorStartsMinimisedAndUnchecked) {
+TEST_F(TheExternalTools, TheCalculatorStartsMinimisedAndUnchecked) {
     Tools.mnuHerramientas_Calculadora_Click();
-    EXPECT_THAT(Log.Calls(), ElementsAre("programs.Start calc.exe 2"));
+    EXPECT_THAT(Log.Calls(), ElementsAre("programs.Start calc.exe Minimized"));
 }
 
-TEST_F(ExternalToolsTest, AMissingCalculatorIsARunTimeErrorWithoutAMessageOfItsOwn) {
+TEST_F(TheExternalTools, AMissingCalculatorIsARunTimeErrorWithoutAMessageOfItsOwn) {
     Launcher.Missing = true;
     EXPECT_EQ(ErrorNumberOf([this] { Tools.mnuHerramientas_Calculadora_Click(); }), 53);
     EXPECT_TRUE(Questions.Messages.empty());
 }
 
-TEST_F(ExternalToolsTest, TheGeneratorStartsWithoutQuotesInANormalWindowOnceItIsFound) {
+TEST_F(TheExternalTools, TheGeneratorStartsWithoutQuotesInANormalWindowOnceItIsFound) {
     Stored.Contents[Generator] = "MZ";
     Tools.mnuHerramientas_ScaffolderGenerator_Click();
     EXPECT_THAT(Log.Calls(), ElementsAre("files.CanRead " + Generator.toStdString(),
-                                         "programs.Start " + Generator.toStdString() + " 1"));
+                                         "programs.Start " + Generator.toStdString() + " Normal"));
 }
 
-TEST_F(ExternalToolsTest, AMissingGeneratorIsWarnedAboutAndNotStarted) {
+TEST_F(TheExternalTools, AMissingGeneratorIsWarnedAboutAndNotStarted) {
     Tools.mnuHerramientas_ScaffolderGenerator_Click();
     EXPECT_THAT(Log.CallsOf({"programs."}), testing::IsEmpty());
     ASSERT_EQ(Questions.Messages.size(), 1U);
@@ -59,11 +59,12 @@ TEST_F(ExternalToolsTest, AMissingGeneratorIsWarnedAboutAndNotStarted) {
     EXPECT_EQ(warning.Buttons, MessageButtons::Ok);
 }
 
-TEST_F(ExternalToolsTest, TheIndexPageIsHandedOverMaximisedUncheckedAndUnquoted) {
+TEST_F(TheExternalTools, TheIndexPageIsHandedOverMaximisedUncheckedAndUnquoted) {
     Tools.mnuAyuda_Inkwell_Click();
     EXPECT_THAT(Log.Calls(),
                 ElementsAre("programs.Start explorer.exe " +
-                            Joined({"/mi carpeta", "Ayuda", "index.htm"}).toStdString() + " 3"));
+                            Joined({"/mi carpeta", "Ayuda", "index.htm"}).toStdString() +
+                            " Maximized"));
 }
 
 } // namespace

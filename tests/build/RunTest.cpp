@@ -26,7 +26,7 @@ TEST_F(RunningTheGame, SavesBeforeItSetsTheVariableAndCompilesThenStartsTheGame)
                             "console.StartProcess C:\\fenix\\fxc.exe \"/j/juego.prg\" 4",
                             "main.SetLog Listo", "files.Write " + LogFile.toStdString(),
                             "files.Read " + LogFile.toStdString(),
-                            "programs.Start C:\\fenix\\FXI.exe \"/j/juego.dcb\" 2"));
+                            "programs.Start C:\\fenix\\FXI.exe \"/j/juego.dcb\" Minimized"));
 }
 
 TEST_F(RunningTheGame, SavesEveryNamedDocumentModifiedOrNot) {
@@ -52,19 +52,22 @@ TEST_F(RunningTheGame, GoesOnWithTheUntitledNameWhenSaveAsIsCancelled) {
     Run();
     EXPECT_EQ(Questions.Choosers.size(), 1U);
     EXPECT_THAT(CommandLines(), ElementsAre("C:\\fenix\\fxc.exe \"< sin título >\""));
-    EXPECT_THAT(Starts(), ElementsAre("programs.Start C:\\fenix\\FXI.exe \"< sin títuldcb\" 2"));
+    EXPECT_THAT(Starts(),
+                ElementsAre("programs.Start C:\\fenix\\FXI.exe \"< sin títuldcb\" Minimized"));
 }
 
 TEST_F(RunningTheGame, ReplacesTheLastThreeCharactersOfTheNameWhateverTheyAre) {
     Open({"/j/juego.bb"});
     Run();
-    EXPECT_THAT(Starts(), ElementsAre("programs.Start C:\\fenix\\FXI.exe \"/j/juegodcb\" 2"));
+    EXPECT_THAT(Starts(),
+                ElementsAre("programs.Start C:\\fenix\\FXI.exe \"/j/juegodcb\" Minimized"));
 }
 
 TEST_F(RunningTheGame, LooksForTheInterpreterRightBehindTheMainPath) {
     Options.MainPath = QStringLiteral("C:\\fenix"); // no separator at its end
     Run();
-    EXPECT_THAT(Starts(), ElementsAre("programs.Start C:\\fenixFXI.exe \"/j/juego.dcb\" 2"));
+    EXPECT_THAT(Starts(),
+                ElementsAre("programs.Start C:\\fenixFXI.exe \"/j/juego.dcb\" Minimized"));
 }
 
 TEST_F(RunningTheGame, EndsInErrorFiveWhenTheNameIsShorterThanThreeCharacters) {

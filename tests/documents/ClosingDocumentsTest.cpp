@@ -122,11 +122,12 @@ TEST_F(ClosingDocuments, TakesItsStepsInOrder) {
 
     Documents.CloseDocument();
 
-    EXPECT_THAT(Log.Calls(), ElementsAre("tabs.RemoveTab 4", "editor.TakeContentsFrom",
-                                         "window.EnablePanel 2 false", "window.SetCaption /j/c.prg",
-                                         "tabs.SetTabCaption 3 c.prg", "window.Close /j/c.prg",
-                                         "window.Activate /j/c.prg", "window.Maximize /j/c.prg",
-                                         "editor.SetFocus", "tabs.SetTabCaption 3 c.prg"));
+    EXPECT_THAT(Log.Calls(),
+                ElementsAre("tabs.RemoveTab 4", "editor.TakeContentsFrom",
+                            "window.EnablePanel Modified false", "window.SetCaption /j/c.prg",
+                            "tabs.SetTabCaption 3 c.prg", "window.Close /j/c.prg",
+                            "window.Activate /j/c.prg", "window.Maximize /j/c.prg",
+                            "editor.SetFocus", "tabs.SetTabCaption 3 c.prg"));
 }
 
 TEST_F(ClosingDocuments, MovesNothingWhenTheLastOneGoes) {

@@ -70,10 +70,10 @@ TEST_F(WalkingWithSilentTabs, StepsBackFromTheFirstDocumentToTheHelpPage) {
     Walk.ActivatePrevious();
 
     EXPECT_EQ(Registry.CurrentIndex, 0);
-    EXPECT_THAT(Steps(),
-                ElementsAre("help.SetFocus", "lists.RemoveItem 0 0", "lists.RemoveItem 0 0",
-                            "lists.RemoveItem 1 0", "lists.RemoveItem 2 0", "lists.RemoveItem 2 0",
-                            "tabs.SelectTab 1"));
+    EXPECT_THAT(Steps(), ElementsAre("help.SetFocus", "lists.RemoveItem Functions 0",
+                                     "lists.RemoveItem Functions 0", "lists.RemoveItem Labels 0",
+                                     "lists.RemoveItem Types 0", "lists.RemoveItem Types 0",
+                                     "tabs.SelectTab 1"));
 }
 
 TEST_F(WalkingWithSilentTabs, LeavesOnlyTheWindowMenuOnTheHelpPage) {

@@ -30,7 +30,8 @@ TEST_F(SavingDocuments, WritesTheTextUnderFolderAndName) {
 
     Documents.SaveDocument();
 
-    EXPECT_THAT(Log.Calls(), ElementsAre("editor.SaveFile /j/a.prg", "window.EnablePanel 2 false"));
+    EXPECT_THAT(Log.Calls(),
+                ElementsAre("editor.SaveFile /j/a.prg", "window.EnablePanel Modified false"));
     EXPECT_EQ(Disk.Texts["/j/a.prg"], QString("changed"));
 }
 
@@ -127,7 +128,7 @@ TEST_F(SavingDocuments, TakesItsStepsInOrderUnderANewName) {
     EXPECT_THAT(Log.Calls(),
                 ElementsAre("dialogs.ShowSave Programas de Fenix (*.prg)|*.prg",
                             "editor.SaveFile /k/nuevo.prg", "window.SetCaption /k/nuevo.prg",
-                            "tabs.SetTabCaption 2 nuevo.prg", "window.EnablePanel 2 false"));
+                            "tabs.SetTabCaption 2 nuevo.prg", "window.EnablePanel Modified false"));
 }
 
 TEST_F(SavingDocuments, ChangesNothingWhenTheChooserIsCancelled) {

@@ -39,33 +39,33 @@ TEST_F(ApplyingEditorSettings, SetsEverySlotAndClassInTheFixedOrder) {
     ApplyEditorSettings(WindowOf(1), DistinctSettings());
 
     EXPECT_THAT(Log.Calls(),
-                ElementsAre("editor.SetColorSyntax true",     //
-                            "editor.SetColor 14 101",         // comments
-                            "editor.SetColor 8 102",          // keywords
-                            "editor.SetColor 20 102",         // user words
-                            "editor.SetColor 6 103",          // numbers
-                            "editor.SetColor 10 104",         // operators
-                            "editor.SetColor 16 105",         // strings
-                            "editor.SetColor 4 106",          // text
-                            "editor.SetColor 15 107",         // the backgrounds, same order
-                            "editor.SetColor 9 107",          //
-                            "editor.SetColor 21 107",         //
-                            "editor.SetColor 7 107",          //
-                            "editor.SetColor 11 107",         //
-                            "editor.SetColor 17 107",         //
-                            "editor.SetColor 5 107",          //
-                            "editor.SetColor 0 107",          // window
-                            "editor.SetColor 30 150",         // highlighted line: red 150
-                            "editor.SetFontName Courier New", //
-                            "editor.SetFontSize 10",          //
-                            "editor.SetFontStyle 5 11",       // comments
-                            "editor.SetFontStyle 2 12",       // keywords
-                            "editor.SetFontStyle 8 12",       // user words
-                            "editor.SetFontStyle 1 13",       // numbers
-                            "editor.SetFontStyle 3 14",       // operators
-                            "editor.SetFontStyle 6 15",       // strings
-                            "editor.SetFontStyle 0 16",       // text
-                            "editor.SetTabSize 4",            //
+                ElementsAre("editor.SetColorSyntax true",             //
+                            "editor.SetColor Comment 101",            // comments
+                            "editor.SetColor Keyword 102",            // keywords
+                            "editor.SetColor UserWord 102",           // user words
+                            "editor.SetColor Number 103",             // numbers
+                            "editor.SetColor Operator 104",           // operators
+                            "editor.SetColor String 105",             // strings
+                            "editor.SetColor Text 106",               // text
+                            "editor.SetColor CommentBackground 107",  // the backgrounds, same order
+                            "editor.SetColor KeywordBackground 107",  //
+                            "editor.SetColor UserWordBackground 107", //
+                            "editor.SetColor NumberBackground 107",   //
+                            "editor.SetColor OperatorBackground 107", //
+                            "editor.SetColor StringBackground 107",   //
+                            "editor.SetColor TextBackground 107",     //
+                            "editor.SetColor Window 107",             // window
+                            "editor.SetColor HighlightedLine 150",    // highlighted line: red 150
+                            "editor.SetFontName Courier New",         //
+                            "editor.SetFontSize 10",                  //
+                            "editor.SetFontStyle Comment 11",         // comments
+                            "editor.SetFontStyle Keyword 12",         // keywords
+                            "editor.SetFontStyle UserWord 12",        // user words
+                            "editor.SetFontStyle Number 13",          // numbers
+                            "editor.SetFontStyle Operator 14",        // operators
+                            "editor.SetFontStyle String 15",          // strings
+                            "editor.SetFontStyle Text 16",            // text
+                            "editor.SetTabSize 4",                    //
                             "editor.SetLineNumbers true"));
 }
 
@@ -76,7 +76,7 @@ TEST_F(ApplyingEditorSettings, EmptiesTheQuickHelpPanelFirstWhenQuickHelpIsOff) 
     ApplyEditorSettings(WindowOf(1), settings);
 
     ASSERT_GE(Log.Calls().size(), 2U);
-    EXPECT_EQ(Log.Calls()[0], "window.SetPanelText 1 ");
+    EXPECT_EQ(Log.Calls()[0], "window.SetPanelText QuickHelp ");
     EXPECT_EQ(Log.Calls()[1], "editor.SetColorSyntax true");
 }
 
@@ -105,7 +105,7 @@ TEST_F(ApplyingEditorSettings, PassesUnknownStyleNumbersOnUnchanged) {
 
     ApplyEditorSettings(WindowOf(1), settings);
 
-    EXPECT_THAT(Log.Calls(), testing::Contains("editor.SetFontStyle 0 255"));
+    EXPECT_THAT(Log.Calls(), testing::Contains("editor.SetFontStyle Text 255"));
 }
 
 } // namespace

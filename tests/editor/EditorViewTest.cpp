@@ -30,8 +30,8 @@ class ViewOfADocument : public EditorProgram {
 
 TEST_F(ViewOfADocument, LoadsLanguageThenFixedColoursThenSettings) {
     std::vector<std::string> expected = {"editor.SetLanguage Blitz3D",
-                                         "editor.SetColor 27 9868950",  // grey 150
-                                         "editor.SetColor 1 13158600"}; // grey 200
+                                         "editor.SetColor MarginDivider 9868950", // grey 150
+                                         "editor.SetColor Margin 13158600"};      // grey 200
     std::ranges::copy(CallsOfApplyEditorSettings(), std::back_inserter(expected));
 
     View.Form_Load();
@@ -89,8 +89,8 @@ TEST_F(ViewOfADocument, UpdatesTheQuickHelpAfterThePositionWhenAMouseButtonIsRel
 
     Follower.txtCode_MouseUp();
 
-    EXPECT_THAT(Log.Calls(),
-                ElementsAre("window.SetPanelText 3 1 :1", "window.SetPanelText 1 say(texto)"));
+    EXPECT_THAT(Log.Calls(), ElementsAre("window.SetPanelText CaretPosition 1 :1",
+                                         "window.SetPanelText QuickHelp say(texto)"));
 }
 
 TEST_F(ViewOfADocument, DoesNotScanWhenAMouseButtonIsReleased) {
@@ -105,13 +105,13 @@ TEST_F(ViewOfADocument, DoesNotScanWhenAMouseButtonIsReleased) {
 TEST_F(ViewOfADocument, EnablesTheModifiedPanelWhileTheEditorReportsChanges) {
     Editor().Modified = true;
     Follower.txtCode_Change();
-    EXPECT_THAT(Log.Calls(), ElementsAre("window.EnablePanel 2 true"));
+    EXPECT_THAT(Log.Calls(), ElementsAre("window.EnablePanel Modified true"));
 }
 
 TEST_F(ViewOfADocument, DisablesTheModifiedPanelWhenTheChangesAreUndone) {
     Editor().Modified = false;
     Follower.txtCode_Change();
-    EXPECT_THAT(Log.Calls(), ElementsAre("window.EnablePanel 2 false"));
+    EXPECT_THAT(Log.Calls(), ElementsAre("window.EnablePanel Modified false"));
 }
 
 TEST_F(ViewOfADocument, RescansAfterTheModifiedPanelWhenADeclarationLineChanges) {
@@ -123,7 +123,7 @@ TEST_F(ViewOfADocument, RescansAfterTheModifiedPanelWhenADeclarationLineChanges)
 
     Follower.txtCode_Change();
 
-    EXPECT_EQ(Log.Calls().front(), "window.EnablePanel 2 true");
+    EXPECT_EQ(Log.Calls().front(), "window.EnablePanel Modified true");
     EXPECT_THAT(Functions(), ElementsAre("Maine"));
 }
 
@@ -135,7 +135,7 @@ TEST_F(ViewOfADocument, OpensTheEditMenuOnARightClick) {
 TEST_F(ViewOfADocument, SelectsAllOnControlEWithTheControlKeyHeld) {
     Events.CtrlDown = true;
     EXPECT_TRUE(View.txtCode_KeyPress(5));
-    EXPECT_THAT(Log.Calls(), ElementsAre("editor.ExecuteCommand 137"));
+    EXPECT_THAT(Log.Calls(), ElementsAre("editor.ExecuteCommand SelectAll"));
 }
 
 TEST_F(ViewOfADocument, IgnoresCharacterFiveWithoutTheControlKey) {

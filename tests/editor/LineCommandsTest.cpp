@@ -44,9 +44,10 @@ TEST_F(LineCommand, UncommentingDeletesTheNextCharacterTwice) {
 
     ToggleComments(Editor, Language);
 
-    EXPECT_THAT(Log.Calls(), ElementsAre("editor.BeginUndoStep", "editor.SetCaretPos 0 0",
-                                         "editor.ExecuteCommand 195", "editor.ExecuteCommand 195",
-                                         "editor.EndUndoStep"));
+    EXPECT_THAT(Log.Calls(),
+                ElementsAre("editor.BeginUndoStep", "editor.SetCaretPos 0 0",
+                            "editor.ExecuteCommand DeleteNextCharacter",
+                            "editor.ExecuteCommand DeleteNextCharacter", "editor.EndUndoStep"));
 }
 
 TEST_F(LineCommand, TogglingDecidesForEachLineByItself) {
@@ -55,12 +56,13 @@ TEST_F(LineCommand, TogglingDecidesForEachLineByItself) {
 
     ToggleComments(Editor, Language);
 
-    EXPECT_THAT(Log.Calls(), ElementsAre("editor.BeginUndoStep", "editor.SetCaretPos 0 0",
-                                         "editor.ExecuteCommand 195", "editor.ExecuteCommand 195",
-                                         "editor.SetCaretPos 1 0", "editor.InsertText // 1 0",
-                                         "editor.SetCaretPos 2 0", "editor.InsertText // 2 0",
-                                         "editor.SetCaretPos 3 0", "editor.InsertText // 3 0",
-                                         "editor.EndUndoStep"));
+    EXPECT_THAT(Log.Calls(),
+                ElementsAre("editor.BeginUndoStep", "editor.SetCaretPos 0 0",
+                            "editor.ExecuteCommand DeleteNextCharacter",
+                            "editor.ExecuteCommand DeleteNextCharacter", "editor.SetCaretPos 1 0",
+                            "editor.InsertText // 1 0", "editor.SetCaretPos 2 0",
+                            "editor.InsertText // 2 0", "editor.SetCaretPos 3 0",
+                            "editor.InsertText // 3 0", "editor.EndUndoStep"));
 }
 
 TEST_F(LineCommand, TakesTheMarkerFromTheLanguage) {
@@ -104,8 +106,9 @@ TEST_F(LineCommand, OutdentingDeletesOneLeadingTab) {
 
     OutdentLines(Editor);
 
-    EXPECT_THAT(Log.Calls(), ElementsAre("editor.BeginUndoStep", "editor.SetCaretPos 0 0",
-                                         "editor.ExecuteCommand 195", "editor.EndUndoStep"));
+    EXPECT_THAT(Log.Calls(),
+                ElementsAre("editor.BeginUndoStep", "editor.SetCaretPos 0 0",
+                            "editor.ExecuteCommand DeleteNextCharacter", "editor.EndUndoStep"));
 }
 
 } // namespace

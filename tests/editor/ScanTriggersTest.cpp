@@ -83,9 +83,9 @@ TEST_F(ScanTrigger, KeyUpShowsThePositionThenScansThenUpdatesTheQuickHelp) {
 
     Type(Enter, QString());
 
-    EXPECT_THAT(Log.Calls(),
-                ElementsAre("window.SetPanelText 3 1 :1", "languages.RegisterLanguage Blitz3D",
-                            "window.SetPanelText 1 say(texto)"));
+    EXPECT_THAT(Log.Calls(), ElementsAre("window.SetPanelText CaretPosition 1 :1",
+                                         "languages.RegisterLanguage Blitz3D",
+                                         "window.SetPanelText QuickHelp say(texto)"));
 }
 
 TEST_F(ScanTrigger, KeyDownCountsNoLinesWhileTheHelpPageIsActive) {
@@ -107,7 +107,7 @@ TEST_F(ScanTrigger, KeyUpDoesNotScanWhileTheHelpPageIsActive) {
 
     Follower.txtCode_KeyUp(Enter);
 
-    EXPECT_THAT(Log.Calls(), ElementsAre("window.SetPanelText 3 1 :1"));
+    EXPECT_THAT(Log.Calls(), ElementsAre("window.SetPanelText CaretPosition 1 :1"));
     EXPECT_FALSE(Game().Scanning);
 }
 

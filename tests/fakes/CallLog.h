@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "fakes/EnumNames.h"
+
 #include <QString>
 
 #include <initializer_list>
 #include <ostream>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 /// Lets a failed comparison show its texts as texts. The test library looks beside the type.
@@ -46,6 +49,9 @@ class CallLog {
     static std::string Text(const char *value) { return value; }
     static std::string Text(bool value) { return value ? "true" : "false"; }
     static std::string Text(int value) { return std::to_string(value); }
+    template <typename Enum>
+    requires std::is_enum_v<Enum>
+    static std::string Text(Enum value) { return NameOf(value); }
 
     std::vector<std::string> Calls_;
 };

@@ -38,10 +38,10 @@ class FakeEditor : public EditorControl {
     void SetLanguage(const QString &name) override { Log_.Add("editor.SetLanguage", name); }
     void SetColorSyntax(bool on) override { Log_.Add("editor.SetColorSyntax", on); }
     void SetColor(ColorSlot slot, Color color) override {
-        Log_.Add("editor.SetColor", static_cast<int>(slot), static_cast<int>(color.Value));
+        Log_.Add("editor.SetColor", slot, static_cast<int>(color.Value));
     }
     void SetFontStyle(FontStyleClass textClass, int style) override {
-        Log_.Add("editor.SetFontStyle", static_cast<int>(textClass), style);
+        Log_.Add("editor.SetFontStyle", textClass, style);
     }
     void SetFontName(const QString &name) override { Log_.Add("editor.SetFontName", name); }
     void SetFontSize(int points) override { Log_.Add("editor.SetFontSize", points); }
@@ -114,7 +114,7 @@ class FakeEditor : public EditorControl {
         Log_.Add("editor.SetCaretPos", position.Line.Value, position.Column.Value);
     }
     void ExecuteCommand(EditorCommand command) override {
-        Log_.Add("editor.ExecuteCommand", static_cast<int>(command));
+        Log_.Add("editor.ExecuteCommand", command);
     }
     void CompleteWord(const Completions &candidates) override {
         Log_.Add("editor.CompleteWord", static_cast<int>(candidates.size()));
@@ -162,11 +162,11 @@ class FakeDocumentWindow : public DocumentWindow {
         Closed = true;
     }
     void SetPanelText(StatusPanel panel, const QString &text) override {
-        Log_.Add("window.SetPanelText", static_cast<int>(panel), text);
+        Log_.Add("window.SetPanelText", panel, text);
         PanelTexts[panel] = text;
     }
     void EnablePanel(StatusPanel panel, bool enabled) override {
-        Log_.Add("window.EnablePanel", static_cast<int>(panel), enabled);
+        Log_.Add("window.EnablePanel", panel, enabled);
         PanelsEnabled[panel] = enabled;
     }
 

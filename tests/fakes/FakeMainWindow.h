@@ -107,11 +107,11 @@ class FakeNavigationLists : public NavigationLists {
         return found == Items.end() ? 0 : static_cast<int>(found->second.size());
     }
     void AddItem(NavigationList list, const QString &text) override {
-        Log_.Add("lists.AddItem", static_cast<int>(list), text);
+        Log_.Add("lists.AddItem", list, text);
         Items[list].push_back(text);
     }
     void RemoveItem(NavigationList list, int item) override {
-        Log_.Add("lists.RemoveItem", static_cast<int>(list), item);
+        Log_.Add("lists.RemoveItem", list, item);
         Items[list].erase(Items[list].begin() + item);
     }
     int SelectedItem(NavigationList list) const override { return Selected.at(list); }

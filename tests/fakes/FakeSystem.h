@@ -185,7 +185,7 @@ class FakePrograms : public Programs {
     bool Missing = false;
 
     void Start(const QString &commandLine, WindowStyle style) override {
-        Log_.Add("programs.Start", commandLine, static_cast<int>(style));
+        Log_.Add("programs.Start", commandLine, style);
         if (Missing)
             throw FileNotFound();
     }

@@ -11,12 +11,12 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class HelpCommandsTest : public FakeProgram {
+class TheHelpCommands : public FakeProgram {
   protected:
     HelpCommands Rules{Registry, Options, Help, Walk};
 };
 
-TEST_F(HelpCommandsTest, ContextualHelpDoesNothingOnTheHelpPage) {
+TEST_F(TheHelpCommands, ContextualHelpDoesNothingOnTheHelpPage) {
     Open({"/j/a.prg"});
     Walk.mnuVentana_Ayuda_Click();
     Log.Clear();
@@ -27,12 +27,12 @@ TEST_F(HelpCommandsTest, ContextualHelpDoesNothingOnTheHelpPage) {
     EXPECT_EQ(EditorOf(1).SelectionQueries, 0);
 }
 
-TEST_F(HelpCommandsTest, ContextualHelpDoesNothingWithoutDocuments) {
+TEST_F(TheHelpCommands, ContextualHelpDoesNothingWithoutDocuments) {
     Rules.mnuAyuda_Contextual_Click();
     EXPECT_THAT(Log.Calls(), IsEmpty());
 }
 
-TEST_F(HelpCommandsTest, ContextualHelpSwitchesToTheHelpPageAsItStands) {
+TEST_F(TheHelpCommands, ContextualHelpSwitchesToTheHelpPageAsItStands) {
     Open({"/j/a.prg", "/j/b.prg"});
     EditorOf(2).Word = "Cls";
 
@@ -43,7 +43,7 @@ TEST_F(HelpCommandsTest, ContextualHelpSwitchesToTheHelpPageAsItStands) {
     EXPECT_FALSE(Main.Enabled["mnuEdicion"]);
 }
 
-TEST_F(HelpCommandsTest, ContextualHelpAsksOnlyTheCurrentEditorWhereItIsAndWhatItHolds) {
+TEST_F(TheHelpCommands, ContextualHelpAsksOnlyTheCurrentEditorWhereItIsAndWhatItHolds) {
     Open({"/j/a.prg", "/j/b.prg"});
     for (int position : {1, 2})
         EditorOf(position).SelectionQueries = EditorOf(position).WordQueries = 0;
@@ -56,7 +56,7 @@ TEST_F(HelpCommandsTest, ContextualHelpAsksOnlyTheCurrentEditorWhereItIsAndWhatI
     EXPECT_EQ(EditorOf(1).WordQueries, 0);
 }
 
-TEST_F(HelpCommandsTest, TheHomeButtonShowsTheChosenPageAndThenComesForward) {
+TEST_F(TheHelpCommands, TheHomeButtonShowsTheChosenPageAndThenComesForward) {
     Open({"/j/a.prg"});
     Options.HelpPath = R"(C:\Fenix\docs\index.xml)";
 
@@ -68,21 +68,21 @@ TEST_F(HelpCommandsTest, TheHomeButtonShowsTheChosenPageAndThenComesForward) {
                             "help.SetFocus"));
 }
 
-TEST_F(HelpCommandsTest, TheBackButtonFollowsTheViewersCommandTwo) {
+TEST_F(TheHelpCommands, TheBackButtonFollowsTheViewersCommandTwo) {
     htmlAyuda_CommandStateChange(2, true, Main);
     htmlAyuda_CommandStateChange(2, false, Main);
     EXPECT_THAT(Log.Calls(), ElementsAre("main.EnableToolButtons Atrás true",
                                          "main.EnableToolButtons Atrás false"));
 }
 
-TEST_F(HelpCommandsTest, TheForwardButtonFollowsTheViewersCommandOne) {
+TEST_F(TheHelpCommands, TheForwardButtonFollowsTheViewersCommandOne) {
     htmlAyuda_CommandStateChange(1, true, Main);
     htmlAyuda_CommandStateChange(1, false, Main);
     EXPECT_THAT(Log.Calls(), ElementsAre("main.EnableToolButtons Adelante true",
                                          "main.EnableToolButtons Adelante false"));
 }
 
-TEST_F(HelpCommandsTest, NoButtonFollowsOtherCommandsOfTheViewer) {
+TEST_F(TheHelpCommands, NoButtonFollowsOtherCommandsOfTheViewer) {
     for (const int command : {-1, 0, 3, 4})
         htmlAyuda_CommandStateChange(command, true, Main);
     EXPECT_THAT(Log.Calls(), IsEmpty());

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 namespace {
 
@@ -120,4 +120,4 @@ TEST(ColouringExtent, ForgetsEverythingBehindAnInvalidPosition) {
     EXPECT_EQ(extent.OldEnd, 0);
 }
 
-} // namespace Quillbox::Test
+} // namespace Quillbox

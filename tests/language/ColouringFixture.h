@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 /// Comments, strings and a few operators and words as the program's own language has them.
 inline LanguageDefinition BlitzLikeLanguage() {
@@ -46,4 +46,4 @@ inline ColouringState StateBehind(std::string_view text,
     return ColouringRules(BlitzLikeLanguage()).Colour(text, state, styles.data());
 }
 
-} // namespace Quillbox::Test
+} // namespace Quillbox

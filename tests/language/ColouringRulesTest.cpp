@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 TEST(Comments, RunToTheEndOfTheirLine) { EXPECT_EQ(Coloured("x // y z\nx"), "..cccccc.."); }
 
@@ -158,4 +158,4 @@ TEST(Rules, IgnoreMarkersWithALineEndInside) {
     EXPECT_EQ(Coloured(language, "/\n1"), "..n");
 }
 
-} // namespace Quillbox::Test
+} // namespace Quillbox

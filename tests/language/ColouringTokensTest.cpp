@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 namespace {
 
@@ -75,4 +75,4 @@ TEST(TokenClass, OfLettersInANumberIsNumber) {
     EXPECT_EQ(ClassAt("1e5", 2), TokenClass::Number);
 }
 
-} // namespace Quillbox::Test
+} // namespace Quillbox

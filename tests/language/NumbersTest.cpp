@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 TEST(Numbers, AreDigitsWithAFraction) {
     EXPECT_EQ(Coloured("12 1.5 007"), "nn.nnn.nnn");
@@ -61,4 +61,4 @@ TEST(Numbers, GiveWayToOperatorsOfTheSameCharacter) {
     EXPECT_EQ(Coloured(language, "a.b %1 5 %1 .5"), ".o..on.n.on.on");
 }
 
-} // namespace Quillbox::Test
+} // namespace Quillbox

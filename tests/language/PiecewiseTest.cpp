@@ -5,7 +5,7 @@
 
 #include <random>
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 namespace {
 
@@ -130,4 +130,4 @@ TEST(Colouring, WritesEveryStyleAndNoMore) {
     }
 }
 
-} // namespace Quillbox::Test
+} // namespace Quillbox

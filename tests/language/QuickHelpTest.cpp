@@ -60,7 +60,7 @@ TEST_F(QuickHelpPanel, ComparesWholeKeywords) {
 TEST_F(QuickHelpPanel, StaysAsItWasForAKeywordWithoutASlot) {
     ShowKeyword("say");
     EXPECT_EQ(ShowKeyword("desconocida"), "say(texto)");
-    EXPECT_THAT(Log.Calls(), ElementsAre("window.SetPanelText 1 say(texto)"));
+    EXPECT_THAT(Log.Calls(), ElementsAre("window.SetPanelText QuickHelp say(texto)"));
 }
 
 TEST_F(QuickHelpPanel, BecomesEmptyForAKeywordWithoutAHelpLine) {

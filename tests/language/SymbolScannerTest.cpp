@@ -59,9 +59,10 @@ TEST_F(SymbolScan, EmptiesTheListsInTheirOrderBeforeItFillsThem) {
     FillLists();
     Scan("type Punto\nprocess Mover()");
     EXPECT_THAT(Log.Calls(),
-                ElementsAre("lists.RemoveItem 0 0", "lists.RemoveItem 0 0", "lists.RemoveItem 1 0",
-                            "lists.RemoveItem 2 0", "lists.RemoveItem 2 0", "lists.AddItem 2 Punto",
-                            "lists.AddItem 0 Mover", "languages.RegisterLanguage Blitz3D"));
+                ElementsAre("lists.RemoveItem Functions 0", "lists.RemoveItem Functions 0",
+                            "lists.RemoveItem Labels 0", "lists.RemoveItem Types 0",
+                            "lists.RemoveItem Types 0", "lists.AddItem Types Punto",
+                            "lists.AddItem Functions Mover", "languages.RegisterLanguage Blitz3D"));
 }
 
 TEST_F(SymbolScan, OfAnEmptyDocumentEmptiesEverythingAndRegistersTheLanguage) {
@@ -127,9 +128,9 @@ TEST_F(SymbolScan, WithOnlyLabelsEmptiesAllListsAndAddsNothing) {
     FillLists();
     Scan("process Main()\ntype Punto");
     EXPECT_THAT(Log.Calls(),
-                ElementsAre("lists.RemoveItem 0 0", "lists.RemoveItem 0 0", "lists.RemoveItem 1 0",
-                            "lists.RemoveItem 2 0", "lists.RemoveItem 2 0",
-                            "languages.RegisterLanguage Blitz3D"));
+                ElementsAre("lists.RemoveItem Functions 0", "lists.RemoveItem Functions 0",
+                            "lists.RemoveItem Labels 0", "lists.RemoveItem Types 0",
+                            "lists.RemoveItem Types 0", "languages.RegisterLanguage Blitz3D"));
 }
 
 TEST_F(SymbolScan, WithAllListsOffDoesNothing) {
@@ -221,7 +222,7 @@ class AbandonedScan : public SymbolScan {
 
 TEST_F(AbandonedScan, EndsAtTheLineWithoutRegisteringTheLanguage) {
     ScanUntilYield(5, "process Main()\nx\nprocess Otra()");
-    EXPECT_THAT(Log.Calls(), ElementsAre("lists.AddItem 0 Main"));
+    EXPECT_THAT(Log.Calls(), ElementsAre("lists.AddItem Functions Main"));
     EXPECT_EQ(Yields_, 5);
 }
 

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 TEST(FoldedWord, IsUpperCaseWhenCaseDoesNotCount) {
     EXPECT_EQ(FoldedWord("Graphics3D_x", CaseSensitivity::Off), "GRAPHICS3D_X");
@@ -59,4 +59,4 @@ TEST(WordSet, ReadsAWordAsFarAsItReaches) {
     EXPECT_EQ(words.Read(" end").Length, 0U);
 }
 
-} // namespace Quillbox::Test
+} // namespace Quillbox

@@ -162,16 +162,17 @@ TEST_F(TheMediaBrowser, StartsTheViewerMinimizedWithTheUnquotedPath) {
 
     Rules.filArchivos_DblClick();
 
-    EXPECT_THAT(Steps(),
-                ElementsAre("files.CanRead /q/MediaView/mediaview.exe",
-                            "programs.Start /q/MediaView/mediaview.exe /mis juegos/mi nave.x 2"));
+    EXPECT_THAT(
+        Steps(),
+        ElementsAre("files.CanRead /q/MediaView/mediaview.exe",
+                    "programs.Start /q/MediaView/mediaview.exe /mis juegos/mi nave.x Minimized"));
 }
 
 TEST_F(TheMediaBrowser, DoublesTheSeparatorOfARootForTheViewer) {
     StoreViewer();
     Window.FileFolder = "/";
     Rules.filArchivos_DblClick();
-    EXPECT_EQ(Steps().back(), "programs.Start /q/MediaView/mediaview.exe //nave.x 2");
+    EXPECT_EQ(Steps().back(), "programs.Start /q/MediaView/mediaview.exe //nave.x Minimized");
 }
 
 TEST_F(TheMediaBrowser, InsertsTheQuotedPathAtTheCaret) {

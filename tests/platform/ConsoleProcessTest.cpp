@@ -12,7 +12,7 @@ namespace Quillbox {
 
 namespace {
 
-class ConsoleProcessTest : public ProgramTest {
+class TheConsoleProcess : public ProgramTest {
   protected:
     /// What one read yields after the program has ended.
     std::string OutputOf(const QString &commandLine) {
@@ -45,19 +45,19 @@ class ConsoleProcessTest : public ProgramTest {
 
 } // namespace
 
-TEST_F(ConsoleProcessTest, YieldsExactlyTheBytesThatTheProgramWrote) {
+TEST_F(TheConsoleProcess, YieldsExactlyTheBytesThatTheProgramWrote) {
     MakeScript("fxc", "printf '29 bytes de salida, y listo\\r\\n'");
     EXPECT_EQ(OutputOf("./fxc"), "29 bytes de salida, y listo\r\n");
     EXPECT_EQ(OutputOf("./fxc").size(), 29U);
     EXPECT_TRUE(HasNoChild());
 }
 
-TEST_F(ConsoleProcessTest, YieldsAtMostAsManyBytesAsAreAskedFor) {
+TEST_F(TheConsoleProcess, YieldsAtMostAsManyBytesAsAreAskedFor) {
     MakeScript("fxc", "head -c 40000 /dev/zero");
     EXPECT_EQ(OutputOf("./fxc"), std::string(30720, '\0'));
 }
 
-TEST_F(ConsoleProcessTest, KeepsTheRestForTheNextRead) {
+TEST_F(TheConsoleProcess, KeepsTheRestForTheNextRead) {
     MakeScript("fxc", "printf 12345");
     const PipeHandles pipe = *Console.CreatePipe(1 << 20);
     const ProcessHandles process = *Console.StartProcess("./fxc", pipe.WriteEnd);
@@ -68,24 +68,24 @@ TEST_F(ConsoleProcessTest, KeepsTheRestForTheNextRead) {
     Console.CloseHandle(pipe.WriteEnd);
 }
 
-TEST_F(ConsoleProcessTest, YieldsNothingOnceTheWriteEndsAreClosed) {
+TEST_F(TheConsoleProcess, YieldsNothingOnceTheWriteEndsAreClosed) {
     EXPECT_EQ(OutputOf("/bin/true"), "");
 }
 
-TEST_F(ConsoleProcessTest, IgnoresTheExitCode) {
+TEST_F(TheConsoleProcess, IgnoresTheExitCode) {
     MakeScript("fxc", "echo mal; exit 3");
     EXPECT_EQ(OutputOf("./fxc"), "mal\n");
     EXPECT_EQ(OutputOf("/bin/false"), "");
 }
 
-TEST_F(ConsoleProcessTest, MakesPipesOfTheSizeThatIsAskedFor) {
+TEST_F(TheConsoleProcess, MakesPipesOfTheSizeThatIsAskedFor) {
     const PipeHandles pipe = *Console.CreatePipe(1 << 20);
     EXPECT_EQ(::fcntl(static_cast<int>(pipe.ReadEnd), F_GETPIPE_SZ), 1 << 20);
     Console.CloseHandle(pipe.ReadEnd);
     Console.CloseHandle(pipe.WriteEnd);
 }
 
-TEST_F(ConsoleProcessTest, GoesOnWithASmallerPipeWhenTheSizeIsRefused) {
+TEST_F(TheConsoleProcess, GoesOnWithASmallerPipeWhenTheSizeIsRefused) {
     const auto pipe = Console.CreatePipe(std::size_t{1} << 40);
     ASSERT_TRUE(pipe);
     EXPECT_GE(::fcntl(static_cast<int>(pipe->ReadEnd), F_GETPIPE_SZ), 4096);
@@ -93,7 +93,7 @@ TEST_F(ConsoleProcessTest, GoesOnWithASmallerPipeWhenTheSizeIsRefused) {
     Console.CloseHandle(pipe->WriteEnd);
 }
 
-TEST_F(ConsoleProcessTest, HidesThePipeFromOtherChildren) {
+TEST_F(TheConsoleProcess, HidesThePipeFromOtherChildren) {
     const PipeHandles pipe = *Console.CreatePipe(4096);
     for (const SystemHandle end : {pipe.ReadEnd, pipe.WriteEnd}) {
         EXPECT_EQ(::fcntl(static_cast<int>(end), F_GETFD), FD_CLOEXEC);
@@ -101,31 +101,31 @@ TEST_F(ConsoleProcessTest, HidesThePipeFromOtherChildren) {
     }
 }
 
-TEST_F(ConsoleProcessTest, RunsAProgramWithBlanksInItsPathWithAndWithoutQuotes) {
+TEST_F(TheConsoleProcess, RunsAProgramWithBlanksInItsPathWithAndWithoutQuotes) {
     MakeEcho("mi juego/el fxc");
     EXPECT_EQ(OutputOf("\"mi juego\\el fxc\" \"a b\" c"), "<a b>\n<c>\n.\n");
     EXPECT_EQ(OutputOf("mi juego\\el fxc \"a b\" c"), "<a b>\n<c>\n.\n");
     EXPECT_EQ(OutputOf('"' + PathOf("mi juego/el fxc") + '"'), ".\n");
 }
 
-TEST_F(ConsoleProcessTest, PassesOverAFolderWhenThePathMayGoOn) {
+TEST_F(TheConsoleProcess, PassesOverAFolderWhenThePathMayGoOn) {
     MakeEcho("mi juego/fxc");
     QDir().mkdir(PathOf("mi"));
     EXPECT_EQ(OutputOf(PathOf("mi juego/fxc") + " x"), "<x>\n.\n");
 }
 
-TEST_F(ConsoleProcessTest, HandsArgumentsOverWithoutAShell) {
+TEST_F(TheConsoleProcess, HandsArgumentsOverWithoutAShell) {
     MakeEcho("fxc");
     EXPECT_EQ(OutputOf("fxc $HOME *.prg `id` año;\\\"x\\\" \"\""),
               "<$HOME>\n<*.prg>\n<`id`>\n<año;\"x\">\n<>\n.\n");
 }
 
-TEST_F(ConsoleProcessTest, LeavesPathsForANativeProgramAsTheyAre) {
+TEST_F(TheConsoleProcess, LeavesPathsForANativeProgramAsTheyAre) {
     MakeEcho("FXC.exe");
     EXPECT_EQ(OutputOf("fxc /tmp/a.prg C:\\b.prg"), "</tmp/a.prg>\n<C:\\b.prg>\n.\n");
 }
 
-TEST_F(ConsoleProcessTest, FindsTheProgramWithOrWithoutExe) {
+TEST_F(TheConsoleProcess, FindsTheProgramWithOrWithoutExe) {
     MakeScript("uno.exe", "echo uno");
     MakeScript("dos", "echo dos");
     MakeScript("dos.exe", "echo dos.exe");
@@ -134,7 +134,7 @@ TEST_F(ConsoleProcessTest, FindsTheProgramWithOrWithoutExe) {
     EXPECT_EQ(OutputOf("dos"), "dos\n");
 }
 
-TEST_F(ConsoleProcessTest, LooksBesideTheProgramThenInTheCurrentFolderThenOnTheSearchPath) {
+TEST_F(TheConsoleProcess, LooksBesideTheProgramThenInTheCurrentFolderThenOnTheSearchPath) {
     const QString name = QString("quillbox-prueba-%1").arg(::getpid());
     const QString beside = QCoreApplication::applicationDirPath() + '/' + name;
     MakeScript("ruta/" + name, "echo ruta");
@@ -147,7 +147,7 @@ TEST_F(ConsoleProcessTest, LooksBesideTheProgramThenInTheCurrentFolderThenOnTheS
     QFile::remove(beside);
 }
 
-TEST_F(ConsoleProcessTest, NumbersTheErrorOfAMissingProgram) {
+TEST_F(TheConsoleProcess, NumbersTheErrorOfAMissingProgram) {
     EXPECT_EQ(ErrorOf("no-hay-tal-programa -o"), 2);
     EXPECT_EQ(ErrorOf("\"C:\\no hay\\fxc.exe\" -o"), 2);
     EXPECT_EQ(ErrorOf(PathOf("no/hay")), 2);
@@ -155,7 +155,7 @@ TEST_F(ConsoleProcessTest, NumbersTheErrorOfAMissingProgram) {
     EXPECT_TRUE(HasNoChild());
 }
 
-TEST_F(ConsoleProcessTest, PassesOverForbiddenFoldersOfTheSearchPath) {
+TEST_F(TheConsoleProcess, PassesOverForbiddenFoldersOfTheSearchPath) {
     QDir().mkdir(PathOf("cerrada"));
     SetMode(PathOf("cerrada"), 0);
     SetMode(PathOf("."), 0755);
@@ -165,7 +165,7 @@ TEST_F(ConsoleProcessTest, PassesOverForbiddenFoldersOfTheSearchPath) {
     EXPECT_EQ(OutputOf("echo sigue"), "sigue\n");
 }
 
-TEST_F(ConsoleProcessTest, NumbersTheErrorOfWhatCannotBeExecuted) {
+TEST_F(TheConsoleProcess, NumbersTheErrorOfWhatCannotBeExecuted) {
     QDir().mkdir(PathOf("carpeta"));
     EXPECT_EQ(ErrorOf(PathOf("carpeta")), 13);
     WriteTestFile(PathOf("texto"), "hola");
@@ -174,19 +174,19 @@ TEST_F(ConsoleProcessTest, NumbersTheErrorOfWhatCannotBeExecuted) {
     EXPECT_EQ(ErrorOf(PathOf("texto")), ENOEXEC);
 }
 
-TEST_F(ConsoleProcessTest, GivesTheProgramNoStandardInputAndLosesItsErrors) {
+TEST_F(TheConsoleProcess, GivesTheProgramNoStandardInputAndLosesItsErrors) {
     MakeScript("fxc", "cat; echo perdido >&2; echo fin");
     EXPECT_EQ(OutputOf("./fxc"), "fin\n");
 }
 
-TEST_F(ConsoleProcessTest, RunsInTheCurrentFolderWithTheCurrentEnvironment) {
+TEST_F(TheConsoleProcess, RunsInTheCurrentFolderWithTheCurrentEnvironment) {
     MakeScript("fxc", "pwd -P; echo $QUILLBOX_PRUEBA");
     qputenv("QUILLBOX_PRUEBA", "sí");
     EXPECT_EQ(OutputOf("./fxc"), QDir().canonicalPath().toStdString() + "\nsí\n");
     qunsetenv("QUILLBOX_PRUEBA");
 }
 
-TEST_F(ConsoleProcessTest, StartsTheProgramWithTheUsualAnswersToSignals) {
+TEST_F(TheConsoleProcess, StartsTheProgramWithTheUsualAnswersToSignals) {
     MakeScript("fxc", "grep SigBlk /proc/self/status; grep SigIgn /proc/self/status");
     const auto before = ::signal(SIGUSR2, SIG_IGN);
     sigset_t blocked;
@@ -204,7 +204,7 @@ TEST_F(ConsoleProcessTest, StartsTheProgramWithTheUsualAnswersToSignals) {
     EXPECT_EQ(lines[1].mid(8).toULongLong(nullptr, 16) & ordinarySignals, 0U);
 }
 
-TEST_F(ConsoleProcessTest, NeverClosesADescriptorTwice) {
+TEST_F(TheConsoleProcess, NeverClosesADescriptorTwice) {
     const PipeHandles pipe = *Console.CreatePipe(4096);
     Console.CloseHandle(pipe.ReadEnd);
     Console.CloseHandle(pipe.WriteEnd);
@@ -215,7 +215,7 @@ TEST_F(ConsoleProcessTest, NeverClosesADescriptorTwice) {
     EXPECT_EQ(::close(descriptor), 0);
 }
 
-TEST_F(ConsoleProcessTest, RefusesHandlesThatAreClosed) {
+TEST_F(TheConsoleProcess, RefusesHandlesThatAreClosed) {
     const PipeHandles pipe = *Console.CreatePipe(4096);
     Console.CloseHandle(pipe.ReadEnd);
     Console.CloseHandle(pipe.WriteEnd);
@@ -225,7 +225,7 @@ TEST_F(ConsoleProcessTest, RefusesHandlesThatAreClosed) {
     EXPECT_EQ(Console.LastError(), EBADF);
 }
 
-TEST_F(ConsoleProcessTest, LeavesNoZombieWhenAProcessIsForgotten) {
+TEST_F(TheConsoleProcess, LeavesNoZombieWhenAProcessIsForgotten) {
     const PipeHandles pipe = *Console.CreatePipe(4096);
     const ProcessHandles process = *Console.StartProcess("/bin/true", pipe.WriteEnd);
     Console.CloseHandle(process.Thread);
@@ -235,7 +235,7 @@ TEST_F(ConsoleProcessTest, LeavesNoZombieWhenAProcessIsForgotten) {
     Console.CloseHandle(pipe.WriteEnd);
 }
 
-TEST_F(ConsoleProcessTest, RunsAProgramForWindowsThroughWine) {
+TEST_F(TheConsoleProcess, RunsAProgramForWindowsThroughWine) {
     MakeEcho("ruta/wine");
     SearchFirstIn("ruta");
     const QString program = MakeWindowsProgram("mi juego/fxc.exe");
@@ -243,7 +243,7 @@ TEST_F(ConsoleProcessTest, RunsAProgramForWindowsThroughWine) {
               '<' + program.toStdString() + ">\n<-o>\n<a b>\n.\n");
 }
 
-TEST_F(ConsoleProcessTest, HandsPathsToWineInItsOwnForm) {
+TEST_F(TheConsoleProcess, HandsPathsToWineInItsOwnForm) {
     MakeEcho("ruta/wine");
     SearchFirstIn("ruta");
     MakeWindowsProgram("fxc.exe");
@@ -254,7 +254,7 @@ TEST_F(ConsoleProcessTest, HandsPathsToWineInItsOwnForm) {
                   ">\n</no/hay/a.prg>\n</o>\n<-I/tmp>\n<a/b>\n.\n");
 }
 
-TEST_F(ConsoleProcessTest, NumbersTheErrorOfAProgramForWindowsWithoutWine) {
+TEST_F(TheConsoleProcess, NumbersTheErrorOfAProgramForWindowsWithoutWine) {
     QDir().mkdir(PathOf("ruta"));
     SearchOnlyIn("ruta");
     MakeWindowsProgram("fxc.exe");

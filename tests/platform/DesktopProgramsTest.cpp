@@ -7,7 +7,7 @@ namespace Quillbox {
 namespace {
 
 /// A desktop that has only the programs that a test puts into its one search folder.
-class DesktopProgramsTest : public ProgramTest {
+class TheDesktopPrograms : public ProgramTest {
   protected:
     /// The program writes its name and its arguments into the file "marca".
     void Install(const QString &name) {
@@ -35,7 +35,7 @@ class DesktopProgramsTest : public ProgramTest {
     SystemPrograms Programs;
 };
 
-TEST_F(DesktopProgramsTest, TheFirstCalculatorOfTheListThatIsThereIsStarted) {
+TEST_F(TheDesktopPrograms, TheFirstCalculatorOfTheListThatIsThereIsStarted) {
     Install("xcalc");
     Install("galculator");
     SearchOnlyHere();
@@ -43,7 +43,7 @@ TEST_F(DesktopProgramsTest, TheFirstCalculatorOfTheListThatIsThereIsStarted) {
     EXPECT_EQ(Mark(), "galculator\n|");
 }
 
-TEST_F(DesktopProgramsTest, ACalculatorForWindowsThatIsThereIsPreferred) {
+TEST_F(TheDesktopPrograms, ACalculatorForWindowsThatIsThereIsPreferred) {
     Install("xcalc");
     Install("calc.exe");
     SearchOnlyHere();
@@ -51,14 +51,14 @@ TEST_F(DesktopProgramsTest, ACalculatorForWindowsThatIsThereIsPreferred) {
     EXPECT_EQ(Mark(), "calc.exe\n|");
 }
 
-TEST_F(DesktopProgramsTest, WithoutACalculatorTheErrorSaysSo) {
+TEST_F(TheDesktopPrograms, WithoutACalculatorTheErrorSaysSo) {
     SearchOnlyHere();
     EXPECT_EQ(ErrorTextOf([&] { Programs.Start("calc.exe", WindowStyle::Minimized); }),
               "No se encuentra ninguna calculadora en este sistema");
     EXPECT_TRUE(HasNoChild());
 }
 
-TEST_F(DesktopProgramsTest, AllBehindTheExplorerIsOnePath) {
+TEST_F(TheDesktopPrograms, AllBehindTheExplorerIsOnePath) {
     Install("xdg-open");
     QDir().mkpath(PathOf("mis juegos/100% año"));
     WriteTestFile(PathOf("mis juegos/100% año/index.htm"), "");
@@ -68,7 +68,7 @@ TEST_F(DesktopProgramsTest, AllBehindTheExplorerIsOnePath) {
     EXPECT_EQ(Mark(), "xdg-open\n" + page.toStdString() + "|");
 }
 
-TEST_F(DesktopProgramsTest, TheExplorerTakesAQuotedPathInItsWindowsFormToo) {
+TEST_F(TheDesktopPrograms, TheExplorerTakesAQuotedPathInItsWindowsFormToo) {
     Install("xdg-open");
     QDir().mkpath(PathOf("Ayuda"));
     WriteTestFile(PathOf("Ayuda/index.htm"), "");
@@ -77,14 +77,14 @@ TEST_F(DesktopProgramsTest, TheExplorerTakesAQuotedPathInItsWindowsFormToo) {
     EXPECT_EQ(Mark(), "xdg-open\n" + PathOf("Ayuda/index.htm").toStdString() + "|");
 }
 
-TEST_F(DesktopProgramsTest, APageThatIsNotThereIsHandedOverAllTheSame) {
+TEST_F(TheDesktopPrograms, APageThatIsNotThereIsHandedOverAllTheSame) {
     Install("xdg-open");
     SearchOnlyHere();
     Programs.Start("explorer.exe /no/hay/tal pagina.htm", WindowStyle::Maximized);
     EXPECT_EQ(Mark(), "xdg-open\n/no/hay/tal pagina.htm|");
 }
 
-TEST_F(DesktopProgramsTest, AnotherProgramOpensThePageWhenTheFirstIsMissing) {
+TEST_F(TheDesktopPrograms, AnotherProgramOpensThePageWhenTheFirstIsMissing) {
     Install("gio");
     Install("firefox");
     SearchOnlyHere();
@@ -92,14 +92,14 @@ TEST_F(DesktopProgramsTest, AnotherProgramOpensThePageWhenTheFirstIsMissing) {
     EXPECT_EQ(Mark(), "gio\nopen|/a b.htm|");
 }
 
-TEST_F(DesktopProgramsTest, NoShellLooksAtThePath) {
+TEST_F(TheDesktopPrograms, NoShellLooksAtThePath) {
     Install("xdg-open");
     SearchOnlyHere();
     Programs.Start("explorer.exe /a;touch $(x) & `y`.htm", WindowStyle::Maximized);
     EXPECT_EQ(Mark(), "xdg-open\n/a;touch $(x) & `y`.htm|");
 }
 
-TEST_F(DesktopProgramsTest, WithoutAnythingToOpenAPageTheErrorSaysSo) {
+TEST_F(TheDesktopPrograms, WithoutAnythingToOpenAPageTheErrorSaysSo) {
     SearchOnlyHere();
     const QString text = "No se encuentra ningún programa que pueda mostrarlo";
     EXPECT_EQ(ErrorTextOf([&] { Programs.Start("explorer.exe /a.htm", WindowStyle::Maximized); }),
@@ -107,14 +107,14 @@ TEST_F(DesktopProgramsTest, WithoutAnythingToOpenAPageTheErrorSaysSo) {
     EXPECT_EQ(ErrorTextOf([&] { Programs.OpenAddress("http://ejemplo.org/"); }), text);
 }
 
-TEST_F(DesktopProgramsTest, AWebAddressReachesTheBrowserAsItIs) {
+TEST_F(TheDesktopPrograms, AWebAddressReachesTheBrowserAsItIs) {
     Install("xdg-open");
     SearchOnlyHere();
     Programs.OpenAddress("https://ejemplo.org//a%20b?c=d&e=%C3%B1#f");
     EXPECT_EQ(Mark(), "xdg-open\nhttps://ejemplo.org//a%20b?c=d&e=%C3%B1#f|");
 }
 
-TEST_F(DesktopProgramsTest, AnyOtherMissingProgramKeepsTheUsualError) {
+TEST_F(TheDesktopPrograms, AnyOtherMissingProgramKeepsTheUsualError) {
     SearchOnlyHere();
     EXPECT_EQ(ErrorTextOf([&] { Programs.Start("calculadora.exe", WindowStyle::Normal); }),
               FileNotFound().Text);

@@ -21,10 +21,10 @@ using testing::IsEmpty;
 using testing::UnorderedElementsAre;
 
 /// The test's folder is the person's home folder.
-class FoldersTest : public FolderTest {
+class TheFolders : public FolderTest {
   protected:
-    FoldersTest() { qputenv("HOME", QFile::encodeName(PathOf("casa"))); }
-    ~FoldersTest() override { qputenv("HOME", Before_); }
+    TheFolders() { qputenv("HOME", QFile::encodeName(PathOf("casa"))); }
+    ~TheFolders() override { qputenv("HOME", Before_); }
 
     void MakeFolder(const QString &name) const { ASSERT_TRUE(QDir().mkpath(PathOf(name))); }
     int ErrorOfDrive(const QString &path) {
@@ -39,14 +39,14 @@ class FoldersTest : public FolderTest {
 
 } // namespace
 
-TEST_F(FoldersTest, TellsFilesFromFolders) {
+TEST_F(TheFolders, TellsFilesFromFolders) {
     MakeFolder("mapas");
     WriteTestFile(PathOf("nave.x"), "x");
     EXPECT_THAT(Disks.SubFolders(PathOf(".")).Names, ElementsAre("mapas"));
     EXPECT_THAT(Disks.Files(PathOf(".")).Names, ElementsAre("nave.x"));
 }
 
-TEST_F(FoldersTest, FollowsLinksAndLeavesOutThoseThatLeadNowhere) {
+TEST_F(TheFolders, FollowsLinksAndLeavesOutThoseThatLeadNowhere) {
     MakeFolder("mapas");
     WriteTestFile(PathOf("nave.x"), "x");
     QFile::link(PathOf("mapas"), PathOf("a"));
@@ -56,24 +56,24 @@ TEST_F(FoldersTest, FollowsLinksAndLeavesOutThoseThatLeadNowhere) {
     EXPECT_THAT(Disks.Files(PathOf(".")).Names, UnorderedElementsAre("nave.x", "b.x"));
 }
 
-TEST_F(FoldersTest, LeavesOutWhatIsHidden) {
+TEST_F(TheFolders, LeavesOutWhatIsHidden) {
     MakeFolder(".git");
     WriteTestFile(PathOf(".nave.x"), "x");
     EXPECT_THAT(Disks.SubFolders(PathOf(".")).Names, IsEmpty());
     EXPECT_THAT(Disks.Files(PathOf(".")).Names, IsEmpty());
 }
 
-TEST_F(FoldersTest, KeepsAccentsAndOddLettersOfNames) {
+TEST_F(TheFolders, KeepsAccentsAndOddLettersOfNames) {
     WriteTestFile(PathOf("ñandú \"1\"\n.x"), "x");
     EXPECT_THAT(Disks.Files(PathOf(".")).Names, ElementsAre("ñandú \"1\"\n.x"));
 }
 
-TEST_F(FoldersTest, SaysThatAFolderIsGone) {
+TEST_F(TheFolders, SaysThatAFolderIsGone) {
     EXPECT_EQ(Disks.Files(PathOf("nada")).State, FolderState::Missing);
     EXPECT_EQ(Disks.SubFolders(PathOf("nada")).State, FolderState::Missing);
 }
 
-TEST_F(FoldersTest, SaysThatAFolderMayNotBeRead) {
+TEST_F(TheFolders, SaysThatAFolderMayNotBeRead) {
     MakeFolder("secreto");
     SetMode(PathOf("secreto"), 0);
     SetMode(PathOf("."), 0755);
@@ -81,7 +81,7 @@ TEST_F(FoldersTest, SaysThatAFolderMayNotBeRead) {
     EXPECT_EQ(Disks.Files(PathOf("secreto")).State, FolderState::Denied);
 }
 
-TEST_F(FoldersTest, HasTheRootAndTheHomeFolderAsDrives) {
+TEST_F(TheFolders, HasTheRootAndTheHomeFolderAsDrives) {
     MakeFolder("casa");
     EXPECT_THAT(Disks.Drives(), Contains(Drive{"/", "Sistema"}));
     EXPECT_THAT(Disks.Drives(), Contains(Drive{PathOf("casa"), "Personal"}));
@@ -89,24 +89,24 @@ TEST_F(FoldersTest, HasTheRootAndTheHomeFolderAsDrives) {
     EXPECT_EQ(ErrorOfDrive(PathOf("casa")), 0);
 }
 
-TEST_F(FoldersTest, MissesADriveWhoseFolderIsGone) {
+TEST_F(TheFolders, MissesADriveWhoseFolderIsGone) {
     MakeFolder("casa");
     ASSERT_EQ(ErrorOfDrive(PathOf("casa")), 0);
     ASSERT_TRUE(QDir().rmdir(PathOf("casa")));
     EXPECT_EQ(ErrorOfDrive(PathOf("casa")), 68);
 }
 
-TEST_F(FoldersTest, MissesADriveThatLeftItsFolderBehind) {
+TEST_F(TheFolders, MissesADriveThatLeftItsFolderBehind) {
     MakeFolder("usb");
     EXPECT_EQ(ErrorOfDrive(PathOf("usb")), 68);
 }
 
-TEST_F(FoldersTest, BeginsInTheCurrentFolder) {
+TEST_F(TheFolders, BeginsInTheCurrentFolder) {
     EXPECT_EQ(QFileInfo(Disks.CurrentFolder()).canonicalFilePath(),
               QFileInfo(PathOf(".")).canonicalFilePath());
 }
 
-TEST_F(FoldersTest, BeginsAtHomeWhenTheCurrentFolderIsGone) {
+TEST_F(TheFolders, BeginsAtHomeWhenTheCurrentFolderIsGone) {
     MakeFolder("casa");
     MakeFolder("luego");
     QDir::setCurrent(PathOf("luego"));

@@ -7,7 +7,7 @@ namespace Quillbox {
 
 namespace {
 
-class ProgramsTest : public ProgramTest {
+class ThePrograms : public ProgramTest {
   protected:
     /// The number of the run-time error, 0 for none.
     int ErrorOf(const QString &commandLine) {
@@ -31,13 +31,13 @@ class ProgramsTest : public ProgramTest {
 
 } // namespace
 
-TEST_F(ProgramsTest, StartsAProgramWithItsArgumentsAndLeavesNoZombie) {
+TEST_F(ThePrograms, StartsAProgramWithItsArgumentsAndLeavesNoZombie) {
     MakeScript("mi visor/visor", "printf '%s|' \"$@\" > nueva; mv nueva marca; exit 5");
     EXPECT_EQ(ErrorOf("\"mi visor\\visor\" \"a b\" año"), 0);
     EXPECT_EQ(Mark(), "a b|año|");
 }
 
-TEST_F(ProgramsTest, DoesNotWaitForTheProgram) {
+TEST_F(ThePrograms, DoesNotWaitForTheProgram) {
     MakeScript("visor",
                "while [ ! -e sigue ]; do sleep 0.02; done; echo fin > nueva; mv nueva marca");
     EXPECT_EQ(ErrorOf("./visor"), 0);
@@ -46,7 +46,7 @@ TEST_F(ProgramsTest, DoesNotWaitForTheProgram) {
     EXPECT_EQ(Mark(), "fin\n");
 }
 
-TEST_F(ProgramsTest, GivesTheProgramASessionOfItsOwn) {
+TEST_F(ThePrograms, GivesTheProgramASessionOfItsOwn) {
     MakeScript("visor", "cut -d' ' -f1,6 /proc/$$/stat > nueva; mv nueva marca");
     EXPECT_EQ(ErrorOf("./visor"), 0);
     const QStringList numbers = QString::fromStdString(Mark()).trimmed().split(' ');
@@ -54,14 +54,14 @@ TEST_F(ProgramsTest, GivesTheProgramASessionOfItsOwn) {
     EXPECT_EQ(numbers[0], numbers[1]);
 }
 
-TEST_F(ProgramsTest, GivesTheProgramNoTerminal) {
+TEST_F(ThePrograms, GivesTheProgramNoTerminal) {
     MakeScript("visor", "salida=$(readlink /proc/$$/fd/0 /proc/$$/fd/1 /proc/$$/fd/2)\n"
                         "echo $salida > nueva; mv nueva marca");
     EXPECT_EQ(ErrorOf("./visor"), 0);
     EXPECT_EQ(Mark(), "/dev/null /dev/null /dev/null\n");
 }
 
-TEST_F(ProgramsTest, LetsTheProgramLiveOn) {
+TEST_F(ThePrograms, LetsTheProgramLiveOn) {
     MakeScript("visor", "sleep 0.3; echo fin > nueva; mv nueva marca");
     const pid_t child = ::fork();
     ASSERT_GE(child, 0);
@@ -74,7 +74,7 @@ TEST_F(ProgramsTest, LetsTheProgramLiveOn) {
     EXPECT_EQ(Mark(), "fin\n");
 }
 
-TEST_F(ProgramsTest, RaisesTheErrorsThatUsersKnow) {
+TEST_F(ThePrograms, RaisesTheErrorsThatUsersKnow) {
     EXPECT_EQ(ErrorOf("no-hay-tal-programa"), 53);
     EXPECT_EQ(ErrorOf(QString()), 53);
     QDir().mkdir(PathOf("carpeta"));
@@ -86,7 +86,7 @@ TEST_F(ProgramsTest, RaisesTheErrorsThatUsersKnow) {
     EXPECT_TRUE(HasNoChild());
 }
 
-TEST_F(ProgramsTest, StartsAProgramForWindowsThroughWine) {
+TEST_F(ThePrograms, StartsAProgramForWindowsThroughWine) {
     MakeScript("ruta/wine", "printf '%s|' \"$@\" > nueva; mv nueva marca");
     SearchFirstIn("ruta");
     MakeWindowsProgram("visor.exe");
@@ -94,7 +94,7 @@ TEST_F(ProgramsTest, StartsAProgramForWindowsThroughWine) {
     EXPECT_EQ(Mark(), "./visor.exe|x|");
 }
 
-TEST_F(ProgramsTest, SetsVariablesForLaterChildren) {
+TEST_F(ThePrograms, SetsVariablesForLaterChildren) {
     MakeScript("visor", "printf %s \"$QUILLBOX_PRUEBA\" > nueva; mv nueva marca");
     Programs.SetVariable("QUILLBOX_PRUEBA", "C:\\año; x");
     EXPECT_EQ(qEnvironmentVariable("QUILLBOX_PRUEBA"), "C:\\año; x");

@@ -29,7 +29,7 @@ ReadResult ReadAll(const QString &path, const SystemCalls &calls = {}) {
     return result;
 }
 
-class ReadFileTest : public FolderTest {
+class ReadingAFile : public FolderTest {
   protected:
     static void ExpectUnreadable(const QString &path, int code, const QString &text) {
         const std::optional<FileError> error = ReadAll(path).Error;
@@ -41,7 +41,7 @@ class ReadFileTest : public FolderTest {
 
 } // namespace
 
-TEST_F(ReadFileTest, HandsOverTheContentInPiecesOfOneMebibyte) {
+TEST_F(ReadingAFile, HandsOverTheContentInPiecesOfOneMebibyte) {
     const QByteArray content = Pattern((2 << 20) + 17);
     WriteTestFile(PathOf("a.prg"), content);
     const ReadResult result = ReadAll(PathOf("a.prg"));
@@ -51,35 +51,35 @@ TEST_F(ReadFileTest, HandsOverTheContentInPiecesOfOneMebibyte) {
     EXPECT_EQ(result.AnnouncedSizes, std::vector<std::size_t>(3, (2 << 20) + 17));
 }
 
-TEST_F(ReadFileTest, HandsOverNothingOfAnEmptyFile) {
+TEST_F(ReadingAFile, HandsOverNothingOfAnEmptyFile) {
     WriteTestFile(PathOf("a.prg"), "");
     const ReadResult result = ReadAll(PathOf("a.prg"));
     EXPECT_FALSE(result.Error);
     EXPECT_TRUE(result.PieceSizes.empty());
 }
 
-TEST_F(ReadFileTest, SaysThatAFileIsMissing) {
+TEST_F(ReadingAFile, SaysThatAFileIsMissing) {
     ExpectUnreadable(PathOf("no.prg"), ENOENT, "El archivo no existe.");
     ExpectUnreadable(QString(), ENOENT, "El archivo no existe.");
     WriteTestFile(PathOf("archivo"), "x");
     ExpectUnreadable(PathOf("archivo/a.prg"), ENOTDIR, "El archivo no existe.");
 }
 
-TEST_F(ReadFileTest, RefusesAFolder) {
+TEST_F(ReadingAFile, RefusesAFolder) {
     ExpectUnreadable(PathOf("."), EISDIR, "El nombre pertenece a una carpeta.");
 }
 
-TEST_F(ReadFileTest, RefusesDevicesAndPipesWithoutWaitingForThem) {
+TEST_F(ReadingAFile, RefusesDevicesAndPipesWithoutWaitingForThem) {
     ASSERT_EQ(::mkfifo(PathOf("tubo").toUtf8(), 0600), 0);
     ExpectUnreadable(PathOf("tubo"), ENXIO,
                      "El nombre pertenece a un dispositivo y no a un archivo.");
 }
 
-TEST_F(ReadFileTest, RefusesANameThatNoFileCanHave) {
+TEST_F(ReadingAFile, RefusesANameThatNoFileCanHave) {
     ExpectUnreadable(PathOf("a") + QChar(0), EINVAL, "El nombre del archivo no es válido.");
 }
 
-TEST_F(ReadFileTest, RefusesAFileThatMayNotBeRead) {
+TEST_F(ReadingAFile, RefusesAFileThatMayNotBeRead) {
     WriteTestFile(PathOf("a.prg"), "x");
     SetMode(PathOf("a.prg"), 0);
     SetMode(PathOf("."), 0755);
@@ -87,7 +87,7 @@ TEST_F(ReadFileTest, RefusesAFileThatMayNotBeRead) {
     ExpectUnreadable(PathOf("a.prg"), EACCES, "No hay permiso para leer el archivo.");
 }
 
-TEST_F(ReadFileTest, SaysThatTheDiskFailedInTheMiddle) {
+TEST_F(ReadingAFile, SaysThatTheDiskFailedInTheMiddle) {
     WriteTestFile(PathOf("a.prg"), Pattern(3 << 20));
     SystemCalls calls;
     int reads = 0;
@@ -102,7 +102,7 @@ TEST_F(ReadFileTest, SaysThatTheDiskFailedInTheMiddle) {
     EXPECT_EQ(result.Error->Text, "El disco ha fallado al leer.");
 }
 
-TEST_F(ReadFileTest, GoesOnAfterShortAndInterruptedReads) {
+TEST_F(ReadingAFile, GoesOnAfterShortAndInterruptedReads) {
     WriteTestFile(PathOf("a.prg"), Pattern(100));
     SystemCalls calls;
     int reads = 0;
@@ -117,7 +117,7 @@ TEST_F(ReadFileTest, GoesOnAfterShortAndInterruptedReads) {
     EXPECT_EQ(result.Content, Pattern(100));
 }
 
-TEST_F(ReadFileTest, NumbersAnErrorThatHasNoText) {
+TEST_F(ReadingAFile, NumbersAnErrorThatHasNoText) {
     WriteTestFile(PathOf("a.prg"), "x");
     SystemCalls calls;
     calls.Fstat = [](int, struct stat *) {

@@ -11,7 +11,7 @@ namespace Quillbox {
 namespace {
 
 /// Saves with each call failing in its turn, until a save comes to its end without a failure.
-class SaveFailureTest : public FolderTest {
+class FailingSaves : public FolderTest {
   protected:
     const QByteArray Old = Pattern(3000);
     const QByteArray New = Pattern(5500).replace('\x07', "siete");
@@ -62,7 +62,7 @@ const std::set<std::string> CallsOfANewFile = {"lstat", "stat",  "access", "open
 
 } // namespace
 
-TEST_F(SaveFailureTest, LeavesNothingOrTheWholeNewFileWhenCreating) {
+TEST_F(FailingSaves, LeavesNothingOrTheWholeNewFileWhenCreating) {
     const auto failed = FailEachCall(
         EIO, "a.prg", [this] { Clear(); },
         [this](const std::optional<FileError> &error, const std::string &call) {
@@ -74,7 +74,7 @@ TEST_F(SaveFailureTest, LeavesNothingOrTheWholeNewFileWhenCreating) {
     EXPECT_EQ(failed, CallsOfANewFile);
 }
 
-TEST_F(SaveFailureTest, LeavesTheOldOrTheNewFileWhenReplacing) {
+TEST_F(FailingSaves, LeavesTheOldOrTheNewFileWhenReplacing) {
     const auto prepare = [this] {
         Clear();
         WriteTestFile(PathOf("a.prg"), Old);
@@ -94,7 +94,7 @@ TEST_F(SaveFailureTest, LeavesTheOldOrTheNewFileWhenReplacing) {
     EXPECT_EQ(failed, expected);
 }
 
-TEST_F(SaveFailureTest, LeavesTheOldOrTheNewFileBehindALink) {
+TEST_F(FailingSaves, LeavesTheOldOrTheNewFileBehindALink) {
     const auto prepare = [this] {
         Clear();
         WriteTestFile(PathOf("a.prg"), Old);
@@ -110,7 +110,7 @@ TEST_F(SaveFailureTest, LeavesTheOldOrTheNewFileBehindALink) {
     EXPECT_TRUE(failed.contains("readlink"));
 }
 
-TEST_F(SaveFailureTest, RestoresAFileWithHardLinks) {
+TEST_F(FailingSaves, RestoresAFileWithHardLinks) {
     const auto prepare = [this] {
         Clear();
         WriteTestFile(PathOf("a.prg"), Old);
@@ -134,7 +134,7 @@ TEST_F(SaveFailureTest, RestoresAFileWithHardLinks) {
     EXPECT_EQ(failed, expected);
 }
 
-TEST_F(SaveFailureTest, KeepsTheCopyAndSaysWhereWhenRestoringFailsToo) {
+TEST_F(FailingSaves, KeepsTheCopyAndSaysWhereWhenRestoringFailsToo) {
     const QString copy = PathOf("a.prg.antes-de-guardar");
     int damaged = 0;
     for (int failAt = 0;; ++failAt) {
@@ -159,7 +159,7 @@ TEST_F(SaveFailureTest, KeepsTheCopyAndSaysWhereWhenRestoringFailsToo) {
     EXPECT_EQ(Content(), New);
 }
 
-TEST_F(SaveFailureTest, SaysThatTheDiskIsFull) {
+TEST_F(FailingSaves, SaysThatTheDiskIsFull) {
     WriteTestFile(PathOf("a.prg"), Old);
     SystemCalls calls;
     calls.Write = [](int, const void *, std::size_t) -> ssize_t {
@@ -174,7 +174,7 @@ TEST_F(SaveFailureTest, SaysThatTheDiskIsFull) {
     EXPECT_EQ(Entries(), QStringList("a.prg"));
 }
 
-TEST_F(SaveFailureTest, TellsTheProducerThatWritingHasFailed) {
+TEST_F(FailingSaves, TellsTheProducerThatWritingHasFailed) {
     SystemCalls calls;
     calls.Write = [](int, const void *, std::size_t) -> ssize_t {
         errno = ENOSPC;
@@ -190,7 +190,7 @@ TEST_F(SaveFailureTest, TellsTheProducerThatWritingHasFailed) {
     EXPECT_EQ(answers, std::vector<bool>(3, false));
 }
 
-TEST_F(SaveFailureTest, GoesOnAfterShortWrites) {
+TEST_F(FailingSaves, GoesOnAfterShortWrites) {
     SystemCalls calls;
     calls.Write = [](int descriptor, const void *bytes, std::size_t size) {
         return ::write(descriptor, bytes, std::min<std::size_t>(size, 7));
@@ -199,14 +199,14 @@ TEST_F(SaveFailureTest, GoesOnAfterShortWrites) {
     EXPECT_EQ(Content(), New);
 }
 
-TEST_F(SaveFailureTest, TakesAWriteOfNothingForAFailure) {
+TEST_F(FailingSaves, TakesAWriteOfNothingForAFailure) {
     SystemCalls calls;
     calls.Write = [](int, const void *, std::size_t) { return ssize_t{0}; };
     EXPECT_TRUE(ReplaceContent(PathOf("a.prg"), ProducerOf(New), LinuxFileSystem(calls)));
     EXPECT_EQ(Entries(), QStringList());
 }
 
-TEST_F(SaveFailureTest, GoesOnAfterInterruptions) {
+TEST_F(FailingSaves, GoesOnAfterInterruptions) {
     const std::set<std::string> interruptible = {"open",  "read",      "write",
                                                  "fsync", "ftruncate", "close"};
     for (const bool linked : {false, true}) {
@@ -227,7 +227,7 @@ TEST_F(SaveFailureTest, GoesOnAfterInterruptions) {
     }
 }
 
-TEST_F(SaveFailureTest, SavesInAFolderThatCannotBeListed) {
+TEST_F(FailingSaves, SavesInAFolderThatCannotBeListed) {
     WriteTestFile(PathOf("a.prg"), Old);
     SystemCalls calls;
     calls.Open = [](const char *name, int flags, mode_t mode) {
@@ -238,7 +238,7 @@ TEST_F(SaveFailureTest, SavesInAFolderThatCannotBeListed) {
     EXPECT_EQ(Content(), New);
 }
 
-TEST_F(SaveFailureTest, KeepsOwnerAndGroupOfTheOldFile) {
+TEST_F(FailingSaves, KeepsOwnerAndGroupOfTheOldFile) {
     WriteTestFile(PathOf("a.prg"), Old);
     SetMode(PathOf("a.prg"), 0755);
     SystemCalls calls = WithAnotherOwner();
@@ -252,7 +252,7 @@ TEST_F(SaveFailureTest, KeepsOwnerAndGroupOfTheOldFile) {
     EXPECT_EQ(ModeOf(PathOf("a.prg")), 04755U);
 }
 
-TEST_F(SaveFailureTest, KeepsTheGroupAloneWhenTheOwnerMayNotBeGivenAway) {
+TEST_F(FailingSaves, KeepsTheGroupAloneWhenTheOwnerMayNotBeGivenAway) {
     WriteTestFile(PathOf("a.prg"), Old);
     SetMode(PathOf("a.prg"), 0755);
     SystemCalls calls = WithAnotherOwner();
@@ -270,7 +270,7 @@ TEST_F(SaveFailureTest, KeepsTheGroupAloneWhenTheOwnerMayNotBeGivenAway) {
     EXPECT_EQ(Content(), New);
 }
 
-TEST_F(SaveFailureTest, FlushesTheContentBeforeTheNameShowsItAndThenTheName) {
+TEST_F(FailingSaves, FlushesTheContentBeforeTheNameShowsItAndThenTheName) {
     for (const bool linked : {false, true}) {
         Clear();
         WriteTestFile(PathOf("a.prg"), Old);
@@ -300,7 +300,7 @@ TEST_F(SaveFailureTest, FlushesTheContentBeforeTheNameShowsItAndThenTheName) {
     }
 }
 
-TEST_F(SaveFailureTest, WritesUnderANameThatNobodyElseCanRead) {
+TEST_F(FailingSaves, WritesUnderANameThatNobodyElseCanRead) {
     WriteTestFile(PathOf("a.prg"), Old);
     SetMode(PathOf("a.prg"), 0644);
     SystemCalls calls;

@@ -9,7 +9,7 @@ namespace Quillbox {
 
 namespace {
 
-class SaveFileTest : public FolderTest {
+class SavingAFile : public FolderTest {
   protected:
     static std::optional<FileError> Save(const QString &path, const QByteArray &content) {
         return ReplaceContent(path, ProducerOf(content));
@@ -25,39 +25,39 @@ class SaveFileTest : public FolderTest {
 
 } // namespace
 
-TEST_F(SaveFileTest, CreatesANewFile) {
+TEST_F(SavingAFile, CreatesANewFile) {
     EXPECT_FALSE(Save(PathOf("ñandú.prg"), Pattern(10'000)));
     EXPECT_EQ(ReadTestFile(PathOf("ñandú.prg")), Pattern(10'000));
     EXPECT_EQ(Entries(), QStringList("ñandú.prg"));
 }
 
-TEST_F(SaveFileTest, CreatesAnEmptyFileWhenNothingIsProduced) {
+TEST_F(SavingAFile, CreatesAnEmptyFileWhenNothingIsProduced) {
     EXPECT_FALSE(ReplaceContent(PathOf("a.prg"), [](const ByteSink &) {}));
     EXPECT_EQ(ReadTestFile(PathOf("a.prg")), QByteArray());
 }
 
-TEST_F(SaveFileTest, TakesANameInTheCurrentFolder) {
+TEST_F(SavingAFile, TakesANameInTheCurrentFolder) {
     EXPECT_FALSE(Save("a.prg", "uno"));
     EXPECT_FALSE(Save("a.prg", "dos"));
     EXPECT_EQ(ReadTestFile(PathOf("a.prg")), "dos");
     EXPECT_EQ(Entries(), QStringList("a.prg"));
 }
 
-TEST_F(SaveFileTest, ReplacesALongContentByAShortOne) {
+TEST_F(SavingAFile, ReplacesALongContentByAShortOne) {
     WriteTestFile(PathOf("a.prg"), Pattern(100'000));
     EXPECT_FALSE(Save(PathOf("a.prg"), "corto"));
     EXPECT_EQ(ReadTestFile(PathOf("a.prg")), "corto");
     EXPECT_EQ(Entries(), QStringList("a.prg"));
 }
 
-TEST_F(SaveFileTest, RespectsTheUmaskForANewFile) {
+TEST_F(SavingAFile, RespectsTheUmaskForANewFile) {
     const mode_t before = ::umask(027);
     EXPECT_FALSE(Save(PathOf("a.prg"), "x"));
     ::umask(before);
     EXPECT_EQ(ModeOf(PathOf("a.prg")), 0640U);
 }
 
-TEST_F(SaveFileTest, KeepsTheModeOfAnExistingFile) {
+TEST_F(SavingAFile, KeepsTheModeOfAnExistingFile) {
     WriteTestFile(PathOf("a.prg"), "x");
     for (const mode_t mode : {0755U, 0600U, 0666U, 0200U}) {
         SetMode(PathOf("a.prg"), mode);
@@ -66,7 +66,7 @@ TEST_F(SaveFileTest, KeepsTheModeOfAnExistingFile) {
     }
 }
 
-TEST_F(SaveFileTest, ReplacesTheTargetOfASymbolicLinkAndKeepsTheLink) {
+TEST_F(SavingAFile, ReplacesTheTargetOfASymbolicLinkAndKeepsTheLink) {
     QDir().mkdir(PathOf("otra"));
     WriteTestFile(PathOf("otra/real.prg"), "viejo");
     ASSERT_TRUE(QFile::link("otra/real.prg", PathOf("intermedio.prg")));
@@ -78,20 +78,20 @@ TEST_F(SaveFileTest, ReplacesTheTargetOfASymbolicLinkAndKeepsTheLink) {
     EXPECT_EQ(QDir(PathOf("otra")).entryList(QDir::Files | QDir::Hidden), QStringList("real.prg"));
 }
 
-TEST_F(SaveFileTest, CreatesTheTargetOfALinkThatLeadsNowhere) {
+TEST_F(SavingAFile, CreatesTheTargetOfALinkThatLeadsNowhere) {
     ASSERT_TRUE(QFile::link("real.prg", PathOf("enlace.prg")));
     EXPECT_FALSE(Save(PathOf("enlace.prg"), "nuevo"));
     EXPECT_TRUE(S_ISLNK(StatusOf(PathOf("enlace.prg")).st_mode));
     EXPECT_EQ(ReadTestFile(PathOf("real.prg")), "nuevo");
 }
 
-TEST_F(SaveFileTest, RefusesALinkToItself) {
+TEST_F(SavingAFile, RefusesALinkToItself) {
     ASSERT_TRUE(QFile::link("enlace.prg", PathOf("enlace.prg")));
     ExpectRefused(PathOf("enlace.prg"), ELOOP,
                   "El archivo es un enlace que no lleva a ninguna parte.");
 }
 
-TEST_F(SaveFileTest, ChangesAllNamesOfAFileWithHardLinks) {
+TEST_F(SavingAFile, ChangesAllNamesOfAFileWithHardLinks) {
     WriteTestFile(PathOf("a.prg"), Pattern(5000));
     SetMode(PathOf("a.prg"), 0640);
     ASSERT_EQ(::link(PathOf("a.prg").toUtf8(), PathOf("b.prg").toUtf8()), 0);
@@ -102,7 +102,7 @@ TEST_F(SaveFileTest, ChangesAllNamesOfAFileWithHardLinks) {
     EXPECT_EQ(Entries(), QStringList({"a.prg", "b.prg"}));
 }
 
-TEST_F(SaveFileTest, NeverTouchesACopyThatAnEarlierSaveHasLeft) {
+TEST_F(SavingAFile, NeverTouchesACopyThatAnEarlierSaveHasLeft) {
     WriteTestFile(PathOf("a.prg"), "viejo");
     WriteTestFile(PathOf("a.prg.antes-de-guardar"), "mi única copia");
     ASSERT_EQ(::link(PathOf("a.prg").toUtf8(), PathOf("b.prg").toUtf8()), 0);
@@ -111,7 +111,7 @@ TEST_F(SaveFileTest, NeverTouchesACopyThatAnEarlierSaveHasLeft) {
     EXPECT_EQ(Entries(), QStringList({"a.prg", "a.prg.antes-de-guardar", "b.prg"}));
 }
 
-TEST_F(SaveFileTest, SavesANameOfTheGreatestLength) {
+TEST_F(SavingAFile, SavesANameOfTheGreatestLength) {
     const QString name(255, 'n');
     EXPECT_FALSE(Save(PathOf(name), "uno"));
     ASSERT_EQ(::link(PathOf(name).toUtf8(), PathOf("b.prg").toUtf8()), 0);
@@ -121,7 +121,7 @@ TEST_F(SaveFileTest, SavesANameOfTheGreatestLength) {
                   "El nombre del archivo es demasiado largo.");
 }
 
-TEST_F(SaveFileTest, RefusesAProtectedFile) {
+TEST_F(SavingAFile, RefusesAProtectedFile) {
     WriteTestFile(PathOf("a.prg"), "viejo");
     SetMode(PathOf("a.prg"), 0444);
     ExpectRefused(PathOf("a.prg"), EACCES, "El archivo está protegido contra escritura.");
@@ -129,7 +129,7 @@ TEST_F(SaveFileTest, RefusesAProtectedFile) {
     EXPECT_EQ(Entries(), QStringList("a.prg"));
 }
 
-TEST_F(SaveFileTest, RefusesAFileThatOnlyOthersMayWrite) {
+TEST_F(SavingAFile, RefusesAFileThatOnlyOthersMayWrite) {
     WriteTestFile(PathOf("a.prg"), "viejo");
     SetMode(PathOf("a.prg"), 0446);
     SetMode(PathOf("."), 0777);
@@ -138,12 +138,12 @@ TEST_F(SaveFileTest, RefusesAFileThatOnlyOthersMayWrite) {
     EXPECT_EQ(ReadTestFile(PathOf("a.prg")), "viejo");
 }
 
-TEST_F(SaveFileTest, RefusesAFolderThatBelongsToSomebodyElse) {
+TEST_F(SavingAFile, RefusesAFolderThatBelongsToSomebodyElse) {
     const OrdinaryUser user;
     ExpectRefused("/usr/quillbox.prg", EACCES, "No hay permiso para escribir en la carpeta.");
 }
 
-TEST_F(SaveFileTest, RefusesAProtectedFolder) {
+TEST_F(SavingAFile, RefusesAProtectedFolder) {
     QDir().mkdir(PathOf("fija"));
     WriteTestFile(PathOf("fija/a.prg"), "viejo");
     SetMode(PathOf("fija"), 0555);
@@ -154,19 +154,19 @@ TEST_F(SaveFileTest, RefusesAProtectedFolder) {
     EXPECT_EQ(QDir(PathOf("fija")).entryList(QDir::Files | QDir::Hidden), QStringList("a.prg"));
 }
 
-TEST_F(SaveFileTest, RefusesAFolder) {
+TEST_F(SavingAFile, RefusesAFolder) {
     QDir().mkdir(PathOf("carpeta"));
     ExpectRefused(PathOf("carpeta"), EISDIR, "El nombre pertenece a una carpeta.");
     ExpectRefused(PathOf("carpeta/"), EISDIR, "El nombre pertenece a una carpeta.");
 }
 
-TEST_F(SaveFileTest, RefusesAFolderThatHasVanished) {
+TEST_F(SavingAFile, RefusesAFolderThatHasVanished) {
     ExpectRefused(PathOf("no/hay/a.prg"), ENOENT, "La carpeta ya no existe.");
     WriteTestFile(PathOf("archivo"), "x");
     ExpectRefused(PathOf("archivo/a.prg"), ENOTDIR, "La carpeta ya no existe.");
 }
 
-TEST_F(SaveFileTest, RefusesDevicesAndPipes) {
+TEST_F(SavingAFile, RefusesDevicesAndPipes) {
     ASSERT_EQ(::mkfifo(PathOf("tubo").toUtf8(), 0600), 0);
     const QString text = "El nombre pertenece a un dispositivo y no a un archivo.";
     ExpectRefused(PathOf("tubo"), ENXIO, text);
@@ -174,13 +174,13 @@ TEST_F(SaveFileTest, RefusesDevicesAndPipes) {
     ExpectRefused(PathOf("enlace"), ENXIO, text);
 }
 
-TEST_F(SaveFileTest, RefusesNamesThatNoFileCanHave) {
+TEST_F(SavingAFile, RefusesNamesThatNoFileCanHave) {
     ExpectRefused(QString(), EINVAL, "El nombre del archivo no es válido.");
     ExpectRefused(PathOf("a") + QChar(0) + "b", EINVAL, "El nombre del archivo no es válido.");
     EXPECT_EQ(Entries(), QStringList());
 }
 
-TEST_F(SaveFileTest, LeavesTheOldFileWhenProducingIsInterrupted) {
+TEST_F(SavingAFile, LeavesTheOldFileWhenProducingIsInterrupted) {
     WriteTestFile(PathOf("a.prg"), "viejo");
     const ByteProducer interrupted = [](const ByteSink &sink) {
         sink("nuevo");

@@ -5,9 +5,9 @@
 
 namespace Quillbox {
 
-using SystemFilesTest = FolderTest;
+using TheSystemFiles = FolderTest;
 
-TEST_F(SystemFilesTest, ReadsAndWritesAllBytes) {
+TEST_F(TheSystemFiles, ReadsAndWritesAllBytes) {
     SystemFiles files;
     EXPECT_TRUE(files.Write(PathOf("a.txt"), Pattern(3000)));
     EXPECT_EQ(files.Read(PathOf("a.txt")), Pattern(3000));
@@ -15,7 +15,7 @@ TEST_F(SystemFilesTest, ReadsAndWritesAllBytes) {
     EXPECT_EQ(files.Read(PathOf("a.txt")), QByteArray());
 }
 
-TEST_F(SystemFilesTest, FindsWindowsPaths) {
+TEST_F(TheSystemFiles, FindsWindowsPaths) {
     SystemFiles files;
     QDir().mkdir(PathOf("Media"));
     EXPECT_TRUE(files.Write("media\\Lista.txt", "x"));
@@ -24,7 +24,7 @@ TEST_F(SystemFilesTest, FindsWindowsPaths) {
     EXPECT_EQ(files.Read("MEDIA\\LISTA.TXT"), "x");
 }
 
-TEST_F(SystemFilesTest, CannotReadAMissingFileOrAFolder) {
+TEST_F(TheSystemFiles, CannotReadAMissingFileOrAFolder) {
     SystemFiles files;
     QDir().mkdir(PathOf("carpeta"));
     for (const QString &name :
@@ -34,13 +34,13 @@ TEST_F(SystemFilesTest, CannotReadAMissingFileOrAFolder) {
     }
 }
 
-TEST_F(SystemFilesTest, CannotReadAPipe) {
+TEST_F(TheSystemFiles, CannotReadAPipe) {
     ASSERT_EQ(::mkfifo(PathOf("tubo").toUtf8(), 0600), 0);
     EXPECT_FALSE(SystemFiles().CanRead(PathOf("tubo")));
     EXPECT_FALSE(SystemFiles().Read(PathOf("tubo")));
 }
 
-TEST_F(SystemFilesTest, CannotReadWithoutPermission) {
+TEST_F(TheSystemFiles, CannotReadWithoutPermission) {
     WriteTestFile(PathOf("a.txt"), "x");
     SetMode(PathOf("a.txt"), 0);
     SetMode(PathOf("."), 0755);
@@ -49,7 +49,7 @@ TEST_F(SystemFilesTest, CannotReadWithoutPermission) {
     EXPECT_FALSE(SystemFiles().Read(PathOf("a.txt")));
 }
 
-TEST_F(SystemFilesTest, CannotWriteAProtectedFile) {
+TEST_F(TheSystemFiles, CannotWriteAProtectedFile) {
     WriteTestFile(PathOf("a.txt"), "viejo");
     SetMode(PathOf("a.txt"), 0444);
     EXPECT_FALSE(SystemFiles().Write(PathOf("a.txt"), "nuevo"));

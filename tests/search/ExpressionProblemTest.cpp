@@ -18,9 +18,9 @@ QString ProblemOf(const QString &term) {
 }
 
 /// The engine's messages in the Spanish of the program's own texts.
-class ExpressionProblemTest : public testing::Test {
+class BadExpressions : public testing::Test {
   protected:
-    ExpressionProblemTest() {
+    BadExpressions() {
         EXPECT_TRUE(Spanish_.load(
             QString::fromStdString((BuiltProgram() / "translations" / "quillbox_es.qm").string())));
         QCoreApplication::installTranslator(&Spanish_);
@@ -138,7 +138,7 @@ QString Named(int length) { return QStringLiteral("(?<%1>a)").arg(QString(length
 
 } // namespace
 
-TEST_F(ExpressionProblemTest, SaysWhatIsWrongAndWhere) {
+TEST_F(BadExpressions, SaysWhatIsWrongAndWhere) {
     EXPECT_EQ(ProblemOf("uno(dos"),
               "Expresión no válida: falta un paréntesis de cierre (posición 8).");
     EXPECT_EQ(ProblemOf("año)"),
@@ -147,12 +147,12 @@ TEST_F(ExpressionProblemTest, SaysWhatIsWrongAndWhere) {
                                "que repetir (posición 1).");
 }
 
-TEST_F(ExpressionProblemTest, HasAReasonInSpanishForEveryMistake) {
+TEST_F(BadExpressions, HasAReasonInSpanishForEveryMistake) {
     for (const Mistake &mistake : Mistakes)
         ExpectReason(QString::fromUtf8(mistake.Term), QString::fromUtf8(mistake.Reason));
 }
 
-TEST_F(ExpressionProblemTest, HasAReasonInSpanishForEveryLimit) {
+TEST_F(BadExpressions, HasAReasonInSpanishForEveryLimit) {
     ExpectReason(QString(300, u'(') + QString(300, u')'),
                  "hay demasiados paréntesis unos dentro de otros");
     ExpectReason("(?:a{1,65535}){65535}", "la expresión es demasiado larga");
@@ -165,7 +165,7 @@ TEST_F(ExpressionProblemTest, HasAReasonInSpanishForEveryLimit) {
                  "lo que se comprueba hacia atrás es demasiado complicado");
 }
 
-TEST_F(ExpressionProblemTest, PutsTheReasonIntoASentenceThatCountsFromOne) {
+TEST_F(BadExpressions, PutsTheReasonIntoASentenceThatCountsFromOne) {
     EXPECT_EQ(ExpressionProblem("algo no encaja", 4),
               "Expresión no válida: algo no encaja (posición 5).");
 }

@@ -104,7 +104,7 @@ TEST_F(TheButtons, HelpStartsTheExplorerWithThePageUnquotedAndMaximised) {
     Rules.cmdAyuda_Click();
     const std::string page =
         (QStringLiteral("/q/Ayuda") + PathSeparator + QStringLiteral("HowTo.htm")).toStdString();
-    EXPECT_THAT(Log.Calls(), ElementsAre("programs.Start explorer.exe " + page + " 3"));
+    EXPECT_THAT(Log.Calls(), ElementsAre("programs.Start explorer.exe " + page + " Maximized"));
 }
 
 TEST_F(TheButtons, HelpFailsWithRunTimeError53WithoutAnExplorer) {

@@ -193,9 +193,9 @@ TEST_F(TheStoredSettings, EmptyTheListsAndTheUserWordsWhenFunctionsAreNotShown) 
     Lists.Items[NavigationList::Types] = {"Nave"};
     Store();
     EXPECT_THAT(Log.CallsOf({"languages.", "lists.", "window.Unload"}),
-                ElementsAre("languages.RegisterLanguage Blitz3D", "lists.RemoveItem 0 0",
-                            "lists.RemoveItem 0 0", "lists.RemoveItem 1 0", "lists.RemoveItem 2 0",
-                            "window.Unload"));
+                ElementsAre("languages.RegisterLanguage Blitz3D", "lists.RemoveItem Functions 0",
+                            "lists.RemoveItem Functions 0", "lists.RemoveItem Labels 0",
+                            "lists.RemoveItem Types 0", "window.Unload"));
     EXPECT_EQ(Languages.Registered.UserWords, "");
     EXPECT_EQ(Languages.Registered.Keywords, "\nCls");
 }

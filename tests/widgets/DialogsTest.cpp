@@ -29,7 +29,7 @@ void WhenOpen(Action act) {
     });
 }
 
-class DialogsTest : public testing::Test {
+class TheDialogs : public testing::Test {
   protected:
     MessageAnswer AnswerBy(QMessageBox::StandardButton button, MessageButtons buttons) {
         WhenOpen<QMessageBox>([button](QMessageBox &box) { box.button(button)->click(); });
@@ -42,7 +42,7 @@ class DialogsTest : public testing::Test {
     QtDialogs Questions;
 };
 
-TEST_F(DialogsTest, ReturnsTheAnswerOfTheButton) {
+TEST_F(TheDialogs, ReturnsTheAnswerOfTheButton) {
     EXPECT_EQ(AnswerBy(QMessageBox::Yes, MessageButtons::YesNoCancel), MessageAnswer::Yes);
     EXPECT_EQ(AnswerBy(QMessageBox::No, MessageButtons::YesNoCancel), MessageAnswer::No);
     EXPECT_EQ(AnswerBy(QMessageBox::Cancel, MessageButtons::YesNoCancel), MessageAnswer::Cancel);
@@ -50,14 +50,14 @@ TEST_F(DialogsTest, ReturnsTheAnswerOfTheButton) {
     EXPECT_EQ(AnswerBy(QMessageBox::Ok, MessageButtons::Ok), MessageAnswer::Ok);
 }
 
-TEST_F(DialogsTest, TakesEscapeForCancel) {
+TEST_F(TheDialogs, TakesEscapeForCancel) {
     WhenOpen<QMessageBox>([](QMessageBox &box) { QTest::keyClick(&box, Qt::Key_Escape); });
     EXPECT_EQ(Questions.ShowMessage({QStringLiteral("Texto"), QStringLiteral("Título"),
                                      MessageIcon::Question, MessageButtons::YesNoCancel}),
               MessageAnswer::Cancel);
 }
 
-TEST_F(DialogsTest, ShowsTextCaptionAndIconAsGiven) {
+TEST_F(TheDialogs, ShowsTextCaptionAndIconAsGiven) {
     WhenOpen<QMessageBox>([](QMessageBox &box) {
         EXPECT_EQ(box.text(), QStringLiteral("<b>no es HTML</b>"));
         EXPECT_EQ(box.textFormat(), Qt::PlainText);
@@ -69,7 +69,7 @@ TEST_F(DialogsTest, ShowsTextCaptionAndIconAsGiven) {
                            MessageIcon::Critical, MessageButtons::Ok});
 }
 
-TEST_F(DialogsTest, NamesItsButtonsInSpanish) {
+TEST_F(TheDialogs, NamesItsButtonsInSpanish) {
     const SpanishInterface spanish(QStringLiteral("/no/hay/"));
     WhenOpen<QMessageBox>([](QMessageBox &box) {
         EXPECT_EQ(box.button(QMessageBox::Yes)->text(), QStringLiteral("&Sí"));
@@ -80,7 +80,7 @@ TEST_F(DialogsTest, NamesItsButtonsInSpanish) {
                            MessageButtons::YesNoCancel});
 }
 
-TEST_F(DialogsTest, OffersTheFilterAndReturnsTheChosenFile) {
+TEST_F(TheDialogs, OffersTheFilterAndReturnsTheChosenFile) {
     QFile file(PathOf(QStringLiteral("juego.prg")));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     WhenOpen<QFileDialog>([this](QFileDialog &dialog) {
@@ -94,14 +94,14 @@ TEST_F(DialogsTest, OffersTheFilterAndReturnsTheChosenFile) {
               PathOf(QStringLiteral("juego.prg")));
 }
 
-TEST_F(DialogsTest, ReturnsNothingWhenThePersonCancelsAChooser) {
+TEST_F(TheDialogs, ReturnsNothingWhenThePersonCancelsAChooser) {
     WhenOpen<QFileDialog>([](QFileDialog &dialog) { dialog.reject(); });
     EXPECT_EQ(Questions.ShowOpen({FileChooserFlags::FileMustExist,
                                   QStringLiteral("Programas de Fenix (*.prg)|*.prg")}),
               std::nullopt);
 }
 
-TEST_F(DialogsTest, ProposesANameAndAddsTheEndingOfTheFilterToAShortOne) {
+TEST_F(TheDialogs, ProposesANameAndAddsTheEndingOfTheFilterToAShortOne) {
     WhenOpen<QFileDialog>([this](QFileDialog &dialog) {
         EXPECT_EQ(dialog.findChild<QLineEdit *>()->text(), QStringLiteral("juego.exe"));
         EXPECT_FALSE(dialog.testOption(QFileDialog::DontConfirmOverwrite));
@@ -114,7 +114,7 @@ TEST_F(DialogsTest, ProposesANameAndAddsTheEndingOfTheFilterToAShortOne) {
               PathOf(QStringLiteral("otro.exe")));
 }
 
-TEST_F(DialogsTest, ComesBackToTheFolderOfTheLastChoice) {
+TEST_F(TheDialogs, ComesBackToTheFolderOfTheLastChoice) {
     WhenOpen<QFileDialog>([this](QFileDialog &dialog) {
         dialog.findChild<QLineEdit *>()->setText(PathOf(QStringLiteral("uno.prg")));
         dialog.findChild<QLineEdit *>()->returnPressed();
@@ -131,7 +131,7 @@ TEST_F(DialogsTest, ComesBackToTheFolderOfTheLastChoice) {
     EXPECT_EQ(folder, Folder.path());
 }
 
-TEST_F(DialogsTest, NamesFileTypesInSpanish) {
+TEST_F(TheDialogs, NamesFileTypesInSpanish) {
     WhenOpen<QFileDialog>([this](QFileDialog &dialog) {
         EXPECT_EQ(dialog.iconProvider()->type(QFileInfo(Folder.path())), QStringLiteral("Carpeta"));
         EXPECT_EQ(dialog.iconProvider()->type(QFileInfo(PathOf(QStringLiteral("a.prg")))),
@@ -141,7 +141,7 @@ TEST_F(DialogsTest, NamesFileTypesInSpanish) {
     Questions.ShowOpen({FileChooserFlags::FileMustExist, QStringLiteral("Todo (*)|*")});
 }
 
-TEST_F(DialogsTest, AsksForALineAndReplacesWhatAFileCannotHold) {
+TEST_F(TheDialogs, AsksForALineAndReplacesWhatAFileCannotHold) {
     WhenOpen<QInputDialog>([](QInputDialog &dialog) {
         EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Añadir Tarea"));
         EXPECT_EQ(dialog.labelText(), QStringLiteral("Descripción:"));
@@ -153,7 +153,7 @@ TEST_F(DialogsTest, AsksForALineAndReplacesWhatAFileCannotHold) {
               QStringLiteral("música ?"));
 }
 
-TEST_F(DialogsTest, TellsAnEmptyLineFromACancelledOne) {
+TEST_F(TheDialogs, TellsAnEmptyLineFromACancelledOne) {
     const InputBox box{QStringLiteral("Descripción:"), QStringLiteral("Añadir Tarea")};
     WhenOpen<QInputDialog>([](QInputDialog &dialog) { dialog.accept(); });
     EXPECT_EQ(Questions.ShowInput(box), QString());
@@ -161,7 +161,7 @@ TEST_F(DialogsTest, TellsAnEmptyLineFromACancelledOne) {
     EXPECT_EQ(Questions.ShowInput(box), std::nullopt);
 }
 
-TEST_F(DialogsTest, OffersThePresetColorAndReturnsTheChosenOne) {
+TEST_F(TheDialogs, OffersThePresetColorAndReturnsTheChosenOne) {
     WhenOpen<QColorDialog>([](QColorDialog &dialog) {
         EXPECT_EQ(dialog.currentColor(), QColor(1, 2, 3));
         dialog.setCurrentColor(QColor(255, 128, 0));
@@ -170,7 +170,7 @@ TEST_F(DialogsTest, OffersThePresetColorAndReturnsTheChosenOne) {
     EXPECT_EQ(Questions.ShowColor(RgbColor(1, 2, 3)), RgbColor(255, 128, 0));
 }
 
-TEST_F(DialogsTest, ReturnsNoColorWhenThePersonCancels) {
+TEST_F(TheDialogs, ReturnsNoColorWhenThePersonCancels) {
     WhenOpen<QColorDialog>([](QColorDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
     EXPECT_EQ(Questions.ShowColor(RgbColor(1, 2, 3)), std::nullopt);
 }

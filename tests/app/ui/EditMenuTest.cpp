@@ -7,9 +7,9 @@
 namespace Quillbox {
 namespace {
 
-class EditMenuTest : public UiProgram {
+class TheEditMenu : public UiProgram {
   protected:
-    EditMenuTest() {
+    TheEditMenu() {
         Write(QStringLiteral("Keywords.txt"), "Print\r\n");
         Write(QStringLiteral("QuickHelp.txt"), "Print texto\r\n");
         Write(QStringLiteral("a.prg"), "Print 1\r\nPrint 2\r\n");
@@ -21,7 +21,7 @@ class EditMenuTest : public UiProgram {
     EditorControl &Text() { return WindowOf(1)->Editor(); }
 };
 
-TEST_F(EditMenuTest, TogglesTheCommentOfTheCaretLine) {
+TEST_F(TheEditMenu, TogglesTheCommentOfTheCaretLine) {
     Trigger(QStringLiteral("mnuEdicion_AlternarComentarios"));
     EXPECT_EQ(Text().Text(), QStringLiteral("//Print 1\r\nPrint 2\r\n"));
     Text().SetCaretPos({{0}, {3}});
@@ -29,14 +29,14 @@ TEST_F(EditMenuTest, TogglesTheCommentOfTheCaretLine) {
     EXPECT_EQ(Text().Text(), QStringLiteral("Print 1\r\nPrint 2\r\n"));
 }
 
-TEST_F(EditMenuTest, IndentsAndOutdentsTheCaretLine) {
+TEST_F(TheEditMenu, IndentsAndOutdentsTheCaretLine) {
     Trigger(QStringLiteral("mnuEdicion_DesplazarDerecha"));
     EXPECT_EQ(Text().Text(), QStringLiteral("\tPrint 1\r\nPrint 2\r\n"));
     Trigger(QStringLiteral("mnuEdicion_DesplazarIzquierda"));
     EXPECT_EQ(Text().Text(), QStringLiteral("Print 1\r\nPrint 2\r\n"));
 }
 
-TEST_F(EditMenuTest, InsertsTheChosenColorAtTheCaret) {
+TEST_F(TheEditMenu, InsertsTheChosenColorAtTheCaret) {
     Questions.Colors.push_back(RgbColor(255, 128, 0));
     Trigger(QStringLiteral("mnuEdicion_InsertarRGB"));
     EXPECT_EQ(Text().Text(), QStringLiteral("Pri255,128,0nt 1\r\nPrint 2\r\n"));
@@ -44,7 +44,7 @@ TEST_F(EditMenuTest, InsertsTheChosenColorAtTheCaret) {
     EXPECT_EQ(Text().Text(), QStringLiteral("Print 1\r\nPrint 2\r\n"));
 }
 
-TEST_F(EditMenuTest, AsksForNoColorOnTheHelpPage) {
+TEST_F(TheEditMenu, AsksForNoColorOnTheHelpPage) {
     Trigger(QStringLiteral("mnuVentana_Ayuda"));
     Log.Clear();
     Find<QAction>(QStringLiteral("mnuEdicion_InsertarRGB"))->trigger();

@@ -12,10 +12,10 @@
 namespace Quillbox {
 namespace {
 
-class MainWindowTest : public UiProgram {
+class TheMainWindow : public UiProgram {
   protected:
     /// There are no word files, which the start warns about.
-    MainWindowTest() {
+    TheMainWindow() {
         Start();
         Questions.Messages.clear();
     }
@@ -37,7 +37,7 @@ class MainWindowTest : public UiProgram {
     }
 };
 
-TEST_F(MainWindowTest, StartsOnTheHelpPageWithoutDocument) {
+TEST_F(TheMainWindow, StartsOnTheHelpPageWithoutDocument) {
     EXPECT_TRUE(Main().windowTitle().startsWith(
         QStringLiteral("Quillbox v" QUILLBOX_VERSION " - <Proyecto no abierto>")));
     EXPECT_EQ(Registry().CurrentIndex, 0);
@@ -45,13 +45,13 @@ TEST_F(MainWindowTest, StartsOnTheHelpPageWithoutDocument) {
     EXPECT_TRUE(Find<QWidget>(QStringLiteral("htmlAyuda"))->isVisible());
 }
 
-TEST_F(MainWindowTest, ShowsTheSixMenusInTheirOrder) {
+TEST_F(TheMainWindow, ShowsTheSixMenusInTheirOrder) {
     EXPECT_EQ(MenuTitles(), QStringList({"&Archivo", "&Edición", "&Programa", "&Herramientas",
                                          "&Ventana", "A&yuda"}));
 }
 
 /// The table, menu by menu, as a person sees it.
-TEST_F(MainWindowTest, ShowsEveryMenuWithItsItemsAndKeysInTheOrderOfTheTable) {
+TEST_F(TheMainWindow, ShowsEveryMenuWithItsItemsAndKeysInTheOrderOfTheTable) {
     QStringList expected;
     for (const Command &command : Commands()) {
         if (command.IsSeparator())
@@ -73,7 +73,7 @@ TEST_F(MainWindowTest, ShowsEveryMenuWithItsItemsAndKeysInTheOrderOfTheTable) {
     EXPECT_EQ(shown, expected);
 }
 
-TEST_F(MainWindowTest, ShowsEveryToolButtonInItsPlaceWithItsPictureAndGroupsThem) {
+TEST_F(TheMainWindow, ShowsEveryToolButtonInItsPlaceWithItsPictureAndGroupsThem) {
     const QList<QAction *> shown = Find<QToolBar>(QStringLiteral("tbEstandar"))->actions();
     qsizetype next = 0;
     int group = 0;
@@ -92,7 +92,7 @@ TEST_F(MainWindowTest, ShowsEveryToolButtonInItsPlaceWithItsPictureAndGroupsThem
     EXPECT_EQ(next, shown.size());
 }
 
-TEST_F(MainWindowTest, EnablesAToolButtonTogetherWithItsMenuItem) {
+TEST_F(TheMainWindow, EnablesAToolButtonTogetherWithItsMenuItem) {
     const auto expectSameStates = [this](const char *where) {
         for (const Command &command : ToolbarCommands()) {
             if (!command.IsMenuItem())
@@ -110,12 +110,12 @@ TEST_F(MainWindowTest, EnablesAToolButtonTogetherWithItsMenuItem) {
     expectSameStates("in a document");
 }
 
-TEST_F(MainWindowTest, StartsWithTheHelpPagesButtonsOff) {
+TEST_F(TheMainWindow, StartsWithTheHelpPagesButtonsOff) {
     for (const QString &tooltip : {QStringLiteral("Atrás"), QStringLiteral("Adelante")})
         EXPECT_FALSE(ToolButtonWith(tooltip)->isEnabled()) << qPrintable(tooltip);
 }
 
-TEST_F(MainWindowTest, HasACommandBehindEveryItemOfItsMenus) {
+TEST_F(TheMainWindow, HasACommandBehindEveryItemOfItsMenus) {
     Write(QStringLiteral("a.prg"), "Print 1\r\n");
     Open(QStringLiteral("a.prg"));
     for (const Command &command : Commands())
@@ -126,7 +126,7 @@ TEST_F(MainWindowTest, HasACommandBehindEveryItemOfItsMenus) {
         }
 }
 
-TEST_F(MainWindowTest, EnablesTheDocumentCommandsWithADocumentAndDisablesThemOnTheHelpPage) {
+TEST_F(TheMainWindow, EnablesTheDocumentCommandsWithADocumentAndDisablesThemOnTheHelpPage) {
     const QAction *save = Find<QAction>(QStringLiteral("mnuArchivo_Guardar"));
     EXPECT_FALSE(save->isEnabled());
     EXPECT_FALSE(ToolButtonWith(QStringLiteral("Guardar"))->isEnabled());
@@ -138,7 +138,7 @@ TEST_F(MainWindowTest, EnablesTheDocumentCommandsWithADocumentAndDisablesThemOnT
     EXPECT_TRUE(Find<QMenu>(QStringLiteral("mnuVentana"))->menuAction()->isEnabled());
 }
 
-TEST_F(MainWindowTest, ShowsADocumentOnItsTabMaximisedWithTheKeyboard) {
+TEST_F(TheMainWindow, ShowsADocumentOnItsTabMaximisedWithTheKeyboard) {
     Write(QStringLiteral("a.prg"), "Print 1\r\n");
     Open(QStringLiteral("a.prg"));
     const auto *tabs = Find<QTabBar>(QStringLiteral("tabDocuments"));
@@ -149,7 +149,7 @@ TEST_F(MainWindowTest, ShowsADocumentOnItsTabMaximisedWithTheKeyboard) {
     EXPECT_EQ(WindowOf(1)->windowTitle(), PathOf(QStringLiteral("a.prg")));
 }
 
-TEST_F(MainWindowTest, WalksBetweenDocumentsAndHelpPage) {
+TEST_F(TheMainWindow, WalksBetweenDocumentsAndHelpPage) {
     Trigger(QStringLiteral("mnuArchivo_Nuevo"));
     Trigger(QStringLiteral("mnuArchivo_Nuevo"));
     Trigger(QStringLiteral("mnuVentana_Anterior"));
@@ -162,7 +162,7 @@ TEST_F(MainWindowTest, WalksBetweenDocumentsAndHelpPage) {
     EXPECT_EQ(Registry().CurrentIndex, 1);
 }
 
-TEST_F(MainWindowTest, ReportsTheUnguardedStepForwardWithoutDocumentAsRunTimeError9) {
+TEST_F(TheMainWindow, ReportsTheUnguardedStepForwardWithoutDocumentAsRunTimeError9) {
     Trigger(QStringLiteral("mnuArchivo_Nuevo"));
     Trigger(QStringLiteral("mnuArchivo_Cerrar"));
     Trigger(QStringLiteral("mnuVentana_Siguiente"));
@@ -170,7 +170,7 @@ TEST_F(MainWindowTest, ReportsTheUnguardedStepForwardWithoutDocumentAsRunTimeErr
     EXPECT_TRUE(Questions.Messages[0].Text.contains(QStringLiteral("error 9")));
 }
 
-TEST_F(MainWindowTest, FollowsAChildThatThePersonActivatesByItsFrame) {
+TEST_F(TheMainWindow, FollowsAChildThatThePersonActivatesByItsFrame) {
     Trigger(QStringLiteral("mnuArchivo_Nuevo"));
     Trigger(QStringLiteral("mnuArchivo_Nuevo"));
     WindowOf(2)->showNormal();
@@ -182,7 +182,7 @@ TEST_F(MainWindowTest, FollowsAChildThatThePersonActivatesByItsFrame) {
     EXPECT_EQ(Find<QTabBar>(QStringLiteral("tabDocuments"))->currentIndex(), 1);
 }
 
-TEST_F(MainWindowTest, ClosesDocumentsAndExitsWhileTheWindowsAreRestored) {
+TEST_F(TheMainWindow, ClosesDocumentsAndExitsWhileTheWindowsAreRestored) {
     for (int count = 0; count < 3; ++count)
         Trigger(QStringLiteral("mnuArchivo_Nuevo"));
     WindowOf(3)->showNormal();
@@ -196,7 +196,7 @@ TEST_F(MainWindowTest, ClosesDocumentsAndExitsWhileTheWindowsAreRestored) {
     EXPECT_TRUE(Questions.Messages.empty());
 }
 
-TEST_F(MainWindowTest, AsksTheMenusQuestionWhenAChildIsClosedByItsBox) {
+TEST_F(TheMainWindow, AsksTheMenusQuestionWhenAChildIsClosedByItsBox) {
     Trigger(QStringLiteral("mnuArchivo_Nuevo"));
     QTest::keyClicks(EditorOf(1), QStringLiteral("x"));
     Questions.Answers = {MessageAnswer::Cancel};
@@ -210,13 +210,13 @@ TEST_F(MainWindowTest, AsksTheMenusQuestionWhenAChildIsClosedByItsBox) {
     EXPECT_EQ(Registry().DocumentCount, 0);
 }
 
-TEST_F(MainWindowTest, KeepsTheHelpPageWhenItsBoxIsClicked) {
+TEST_F(TheMainWindow, KeepsTheHelpPageWhenItsBoxIsClicked) {
     Find<QMdiSubWindow>(QStringLiteral("frmAyuda"))->close();
     Settle();
     EXPECT_TRUE(Find<QWidget>(QStringLiteral("htmlAyuda"))->isVisible());
 }
 
-TEST_F(MainWindowTest, StaysOpenWhenThePersonRefusesToCloseADocument) {
+TEST_F(TheMainWindow, StaysOpenWhenThePersonRefusesToCloseADocument) {
     Trigger(QStringLiteral("mnuArchivo_Nuevo"));
     QTest::keyClicks(EditorOf(1), QStringLiteral("x"));
     Questions.Answers = {MessageAnswer::Cancel};
@@ -228,7 +228,7 @@ TEST_F(MainWindowTest, StaysOpenWhenThePersonRefusesToCloseADocument) {
     EXPECT_TRUE(Read(QStringLiteral("Quillbox.ini")).startsWith("[Quillbox]"));
 }
 
-TEST_F(MainWindowTest, ShowsTheCompilersOutputWithoutItsLineEndInTheLogPane) {
+TEST_F(TheMainWindow, ShowsTheCompilersOutputWithoutItsLineEndInTheLogPane) {
     Write(QStringLiteral("a.prg"), "Print 1\r\n");
     Open(QStringLiteral("a.prg"));
     Console.Output = "0 errores en la línea\r\n";
@@ -239,7 +239,7 @@ TEST_F(MainWindowTest, ShowsTheCompilersOutputWithoutItsLineEndInTheLogPane) {
     EXPECT_FALSE(Find<QPlainTextEdit>(QStringLiteral("txtLog"))->toPlainText().contains(u'\n'));
 }
 
-TEST_F(MainWindowTest, ChecksTheDebugModeItem) {
+TEST_F(TheMainWindow, ChecksTheDebugModeItem) {
     Trigger(QStringLiteral("mnuArchivo_Nuevo"));
     Trigger(QStringLiteral("mnuPrograma_ModoDebug"));
     EXPECT_TRUE(Find<QAction>(QStringLiteral("mnuPrograma_ModoDebug"))->isChecked());
@@ -247,7 +247,7 @@ TEST_F(MainWindowTest, ChecksTheDebugModeItem) {
     EXPECT_FALSE(Find<QAction>(QStringLiteral("mnuPrograma_ModoDebug"))->isChecked());
 }
 
-TEST_F(MainWindowTest, ListsFunctionsAndTypesAndJumpsToTheChosenOne) {
+TEST_F(TheMainWindow, ListsFunctionsAndTypesAndJumpsToTheChosenOne) {
     Write(QStringLiteral("a.prg"), "x\r\nprocess Uno()\r\ntype Nave\r\nprocess Dos()\r\n");
     Open(QStringLiteral("a.prg"));
     auto *functions = Find<QComboBox>(QStringLiteral("cmbFunciones"));

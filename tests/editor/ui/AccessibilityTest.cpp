@@ -6,7 +6,7 @@
 
 #include <gmock/gmock.h>
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 namespace {
 
@@ -204,4 +204,4 @@ TEST_F(ScreenReaders, FollowThroughAHugeText) {
     EXPECT_EQ(Reader().cursorPosition(), 900'000 * 18 + 53);
 }
 
-} // namespace Quillbox::Test
+} // namespace Quillbox

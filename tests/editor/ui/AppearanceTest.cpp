@@ -9,7 +9,7 @@
 #include <QFontInfo>
 #include <QImage>
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 namespace {
 
@@ -191,4 +191,4 @@ TEST_F(Appearance, OnPaperIsOnePageForAShortText) {
     EXPECT_EQ(printer.PageCount(), 1);
 }
 
-} // namespace Quillbox::Test
+} // namespace Quillbox

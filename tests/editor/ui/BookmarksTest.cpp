@@ -7,7 +7,7 @@
 
 #include <vector>
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 namespace {
 
@@ -112,4 +112,4 @@ TEST_F(Bookmarks, AreNoEdit) {
     EXPECT_FALSE(Editor->CanUndo());
 }
 
-} // namespace Quillbox::Test
+} // namespace Quillbox

@@ -4,7 +4,7 @@
 #include "editor/ui/ScintillaBrackets.h"
 #include "state/Language.h"
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 namespace {
 
@@ -135,4 +135,4 @@ TEST_F(Brackets, AreReachedByACommandAndLeftTheSameWay) {
     EXPECT_EQ(Jump(10), 10);
 }
 
-} // namespace Quillbox::Test
+} // namespace Quillbox

@@ -8,7 +8,7 @@
 
 #include <cmath>
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 namespace {
 
@@ -74,4 +74,4 @@ INSTANTIATE_TEST_SUITE_P(Grounds, CaretLine,
                                          Ground{"Black", RgbColor(0, 0, 0)}),
                          [](const auto &ground) { return std::string(ground.param.Name); });
 
-} // namespace Quillbox::Test
+} // namespace Quillbox

@@ -9,7 +9,7 @@
 #include <QMimeData>
 #include <QTest>
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 namespace {
 
@@ -288,4 +288,4 @@ TEST_F(SeveralCarets, GoWhenARulePutsTheCaretSomewhere) {
     EXPECT_EQ(Count(), 1);
 }
 
-} // namespace Quillbox::Test
+} // namespace Quillbox

@@ -4,7 +4,7 @@
 
 #include <random>
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 namespace {
 
@@ -249,4 +249,4 @@ TEST_F(EditorColouring, IsLeftToTheNewOwnerOfASharedText) {
     EXPECT_EQ(Shown(), "kk....");
 }
 
-} // namespace Quillbox::Test
+} // namespace Quillbox

@@ -4,7 +4,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 namespace {
 
@@ -200,4 +200,4 @@ TEST_F(EditorCommands, ContentsOfAnEditorStayWhenItTakesItsOwn) {
     EXPECT_EQ(Editor->Text(), "uno");
 }
 
-} // namespace Quillbox::Test
+} // namespace Quillbox

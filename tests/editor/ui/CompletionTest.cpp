@@ -11,7 +11,7 @@
 #include <QScreen>
 #include <QTest>
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 namespace {
 
@@ -284,4 +284,4 @@ TEST_F(Completing, WorksInAVeryLongLine) {
     EXPECT_EQ(Ask(QsciScintillaBase::SCI_GETLENGTH), 1'000'004);
 }
 
-} // namespace Quillbox::Test
+} // namespace Quillbox

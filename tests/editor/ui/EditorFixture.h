@@ -17,7 +17,7 @@
 #include <memory>
 #include <vector>
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 /// Answers every question with OK and keeps what was shown.
 class RecordingDialogs final : public Dialogs {
@@ -98,7 +98,7 @@ class EditorTest : public testing::Test {
 
 constexpr TextPosition At(int line, int column) { return {{line}, {column}}; }
 
-} // namespace Quillbox::Test
+} // namespace Quillbox
 
 namespace Quillbox {
 

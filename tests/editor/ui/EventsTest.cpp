@@ -12,7 +12,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 namespace {
 
@@ -274,4 +274,4 @@ TEST_F(EditorEvents, LetAnExceptionOfAListenerThrough) {
     EXPECT_EQ(Editor->Text(), "xy");
 }
 
-} // namespace Quillbox::Test
+} // namespace Quillbox

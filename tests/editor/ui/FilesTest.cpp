@@ -11,7 +11,7 @@
 
 #include <sys/resource.h>
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 using EditorFiles = EditorTest;
 
@@ -220,4 +220,4 @@ TEST_F(EditorFiles, KeepTheirOldBytesWhenTheDiskIsFull) {
     EXPECT_FALSE(Messages.Messages[0].Text.contains("Hay una copia"));
 }
 
-} // namespace Quillbox::Test
+} // namespace Quillbox

@@ -10,7 +10,7 @@
 #include <QTest>
 #include <QTimer>
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 namespace {
 
@@ -117,4 +117,4 @@ TEST_F(GoingToALine, GivesTheKeyboardBack) {
     EXPECT_EQ(Caret(), At(11, 0));
 }
 
-} // namespace Quillbox::Test
+} // namespace Quillbox

@@ -5,7 +5,7 @@
 
 #include <QKeyEvent>
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 /// An editor that a person uses by keys.
 class EditorKeys : public EditorTest {
@@ -25,4 +25,4 @@ class EditorKeys : public EditorTest {
     }
 };
 
-} // namespace Quillbox::Test
+} // namespace Quillbox

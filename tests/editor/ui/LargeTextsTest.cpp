@@ -3,7 +3,7 @@
 
 #include <random>
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 using LargeTexts = EditorTest;
 
@@ -60,4 +60,4 @@ TEST_F(LargeTexts, MayBeNoTextAtAll) {
     EXPECT_TRUE(Read(PathOf("copia.bb")) == bytes);
 }
 
-} // namespace Quillbox::Test
+} // namespace Quillbox

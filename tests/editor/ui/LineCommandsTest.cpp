@@ -3,7 +3,7 @@
 #include "editor/LineCommands.h"
 #include "EditorFixture.h"
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 namespace {
 
@@ -112,4 +112,4 @@ TEST_F(LineCommandsInText, ACaretAtALineStartChangesNothing) {
     EXPECT_FALSE(Editor->IsModified());
 }
 
-} // namespace Quillbox::Test
+} // namespace Quillbox

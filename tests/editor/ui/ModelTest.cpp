@@ -9,7 +9,7 @@
 
 #include <random>
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 namespace {
 
@@ -266,4 +266,4 @@ TEST_F(EditorAgainstModel, NeverLosesOrInventsACharacter) {
     }
 }
 
-} // namespace Quillbox::Test
+} // namespace Quillbox

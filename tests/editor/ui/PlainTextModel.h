@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <vector>
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 /// A text with caret and selection as plain values: what an editor should hold. Places are counted
 /// in characters; a line end is one or two characters.
@@ -80,4 +80,4 @@ class PlainTextModel {
     std::size_t Position_ = 0;
 };
 
-} // namespace Quillbox::Test
+} // namespace Quillbox

@@ -13,7 +13,7 @@
 #include <QTest>
 #include <QTimer>
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 namespace {
 
@@ -112,4 +112,4 @@ TEST_F(Printing, PutsTheFirstLinesOnPaperWhenAskedForThem) {
     EXPECT_GT(all, 10);
 }
 
-} // namespace Quillbox::Test
+} // namespace Quillbox

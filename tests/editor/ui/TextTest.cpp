@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "EditorFixture.h"
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 using EditorText = EditorTest;
 
@@ -228,4 +228,4 @@ TEST_F(EditorText, StaysAtTheTopLineWhenTheCaretGoesThere) {
     EXPECT_EQ(text.Send(QsciScintillaBase::SCI_GETFIRSTVISIBLELINE), 200);
 }
 
-} // namespace Quillbox::Test
+} // namespace Quillbox

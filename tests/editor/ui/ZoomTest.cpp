@@ -5,7 +5,7 @@
 
 #include <QWheelEvent>
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 namespace {
 
@@ -102,4 +102,4 @@ TEST_F(Zooming, IsNoEdit) {
     EXPECT_FALSE(Editor->CanUndo());
 }
 
-} // namespace Quillbox::Test
+} // namespace Quillbox

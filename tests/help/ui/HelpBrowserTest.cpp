@@ -17,9 +17,9 @@ namespace Quillbox {
 namespace {
 
 /// The browser alone, on pages in a folder whose name is as difficult as names get.
-class HelpBrowserTest : public testing::Test {
+class TheHelpBrowser : public testing::Test {
   protected:
-    HelpBrowserTest() {
+    TheHelpBrowser() {
         Browser.BeforeNavigate = [this](const QString &url) {
             Asked.append(url);
             return Answer;
@@ -56,7 +56,7 @@ class HelpBrowserTest : public testing::Test {
     HelpBrowser Browser;
 };
 
-TEST_F(HelpBrowserTest, ShowsPagesOfEitherCharacterSet) {
+TEST_F(TheHelpBrowser, ShowsPagesOfEitherCharacterSet) {
     Show("<p>a\xF1o</p>");
     EXPECT_EQ(Text(), "año");
     WritePage(PathOf("otra.htm"), "<p>ma\xC3\xB1"
@@ -65,7 +65,7 @@ TEST_F(HelpBrowserTest, ShowsPagesOfEitherCharacterSet) {
     EXPECT_EQ(Text(), "mañana");
 }
 
-TEST_F(HelpBrowserTest, FollowsLinksWithBlanksAccentsAndPercentSigns) {
+TEST_F(TheHelpBrowser, FollowsLinksWithBlanksAccentsAndPercentSigns) {
     WritePage(PathOf("a b/50% año.htm"), "<p>llegada</p>");
     for (const QByteArray link : {"a b/50%25 a\xF1o.htm", "a%20b/50%25%20a%C3%B1o.htm"}) {
         Show("<a href=\"" + link + "\">sigue</a>");
@@ -74,7 +74,7 @@ TEST_F(HelpBrowserTest, FollowsLinksWithBlanksAccentsAndPercentSigns) {
     }
 }
 
-TEST_F(HelpBrowserTest, FollowsUnquotedLinksAndThoseOfWindows) {
+TEST_F(TheHelpBrowser, FollowsUnquotedLinksAndThoseOfWindows) {
     WritePage(PathOf("sub/pagina.htm"), "<a href=..\\OTRA.HTM>otra</a>");
     WritePage(PathOf("otra.htm"), "<p>llegada</p>");
     Show("<A HREF=Sub\\Pagina.htm>sigue</A>");
@@ -84,7 +84,7 @@ TEST_F(HelpBrowserTest, FollowsUnquotedLinksAndThoseOfWindows) {
     EXPECT_EQ(Text(), "llegada");
 }
 
-TEST_F(HelpBrowserTest, FindsPagesWhoseNamesOrLinksEndInABlank) {
+TEST_F(TheHelpBrowser, FindsPagesWhoseNamesOrLinksEndInABlank) {
     WritePage(PathOf("una.htm "), "<p>una</p>");
     WritePage(PathOf("otra.htm"), "<p>otra</p>");
     Show("<a href='una.htm'>u</a> <a href='otra.htm%20'>o</a>");
@@ -95,14 +95,14 @@ TEST_F(HelpBrowserTest, FindsPagesWhoseNamesOrLinksEndInABlank) {
     EXPECT_EQ(Text(), "otra");
 }
 
-TEST_F(HelpBrowserTest, ShowsTheIndexPageOfAFolder) {
+TEST_F(TheHelpBrowser, ShowsTheIndexPageOfAFolder) {
     WritePage(PathOf("manual/index.html"), "<p>manual</p>");
     Show("<a href='manual/'>sigue</a>");
     ClickOn(Browser, "sigue");
     EXPECT_EQ(Text(), "manual");
 }
 
-TEST_F(HelpBrowserTest, AsksWithTheWholeAddressAndStaysWhenItIsRefused) {
+TEST_F(TheHelpBrowser, AsksWithTheWholeAddressAndStaysWhenItIsRefused) {
     Show("<a href='a b.bb'>sigue</a>");
     Asked.clear();
     Answer = NavigationAnswer::Cancel;
@@ -113,7 +113,7 @@ TEST_F(HelpBrowserTest, AsksWithTheWholeAddressAndStaysWhenItIsRefused) {
     EXPECT_FALSE(Browser.isBackwardAvailable());
 }
 
-TEST_F(HelpBrowserTest, HandsOverWebAddressesUnchanged) {
+TEST_F(TheHelpBrowser, HandsOverWebAddressesUnchanged) {
     Show("<a href=\"https://ejemplo.org/a?b=c&amp;d=%C3%B1\">web</a>");
     Asked.clear();
     Answer = NavigationAnswer::Cancel;
@@ -121,7 +121,7 @@ TEST_F(HelpBrowserTest, HandsOverWebAddressesUnchanged) {
     EXPECT_EQ(Asked, QStringList{"https://ejemplo.org/a?b=c&d=%C3%B1"});
 }
 
-TEST_F(HelpBrowserTest, GoesBackAndForwardWithoutAsking) {
+TEST_F(TheHelpBrowser, GoesBackAndForwardWithoutAsking) {
     WritePage(PathOf("otra.htm"), "<p>otra</p>");
     Show("<a href=otra.htm>sigue</a>");
     ClickOn(Browser, "sigue");
@@ -137,7 +137,7 @@ TEST_F(HelpBrowserTest, GoesBackAndForwardWithoutAsking) {
     EXPECT_TRUE(Asked.isEmpty());
 }
 
-TEST_F(HelpBrowserTest, ScrollsToAnAnchorWithAnAccent) {
+TEST_F(TheHelpBrowser, ScrollsToAnAnchorWithAnAccent) {
     Show("<a href='#secci\xC3\xB3n'>sigue</a>" + QByteArray("<p>.</p>").repeated(60) +
          "<a name='secci\xC3\xB3n'></a><p>final</p>" + QByteArray("<p>.</p>").repeated(60));
     ClickOn(Browser, "sigue");
@@ -145,14 +145,14 @@ TEST_F(HelpBrowserTest, ScrollsToAnAnchorWithAnAccent) {
     EXPECT_TRUE(Browser.isBackwardAvailable());
 }
 
-TEST_F(HelpBrowserTest, ShowsASourceWithAnotherEndingAsText) {
+TEST_F(TheHelpBrowser, ShowsASourceWithAnotherEndingAsText) {
     WritePage(PathOf("ejemplo.BB"), "If a<b Then\r\n  Print \"a\xF1o\"\r\n");
     Show("<a href='ejemplo.BB'>sigue</a>");
     ClickOn(Browser, "sigue");
     EXPECT_EQ(Text().trimmed(), "If a<b Then\n  Print \"año\"");
 }
 
-TEST_F(HelpBrowserTest, KeepsAMissingPageInTheHistory) {
+TEST_F(TheHelpBrowser, KeepsAMissingPageInTheHistory) {
     Show("<a href='falta.htm'>sigue</a>");
     ClickOn(Browser, "sigue");
     EXPECT_TRUE(Text().contains(PathOf("falta.htm")));
@@ -162,13 +162,13 @@ TEST_F(HelpBrowserTest, KeepsAMissingPageInTheHistory) {
     EXPECT_TRUE(Text().contains("falta.htm"));
 }
 
-TEST_F(HelpBrowserTest, SaysThatNoPageIsChosen) {
+TEST_F(TheHelpBrowser, SaysThatNoPageIsChosen) {
     Show("<p>a</p>");
     Browser.Navigate(QString());
     EXPECT_TRUE(Text().contains("No hay ninguna página elegida"));
 }
 
-TEST_F(HelpBrowserTest, TakesStyleSheetsOfPageAndFileIntoAccount) {
+TEST_F(TheHelpBrowser, TakesStyleSheetsOfPageAndFileIntoAccount) {
     WritePage(PathOf("Estilo.css"), "h1 { color: #ff0000 }");
     Show("<link rel=stylesheet href='estilo.css'><style>p { color: #0000ff }</style>"
          "<h1>uno</h1><p>dos</p>");
@@ -179,7 +179,7 @@ TEST_F(HelpBrowserTest, TakesStyleSheetsOfPageAndFileIntoAccount) {
     EXPECT_EQ(colorOf("dos"), QColor(0x0000ff));
 }
 
-TEST_F(HelpBrowserTest, ShowsPicturesAtTheirSizeAndTheSizeThatIsAsked) {
+TEST_F(TheHelpBrowser, ShowsPicturesAtTheirSizeAndTheSizeThatIsAsked) {
     WritePage(PathOf("sub/nada.htm"), "");
     WritePicture("Nave.png", QSize(40, 30));
     Show("<img src='nave.PNG'>");
@@ -191,19 +191,19 @@ TEST_F(HelpBrowserTest, ShowsPicturesAtTheirSizeAndTheSizeThatIsAsked) {
     EXPECT_NEAR(SizeOfTheFirstPicture().height(), natural + 30, 2);
 }
 
-TEST_F(HelpBrowserTest, MakesNoPictureWiderThanThePage) {
+TEST_F(TheHelpBrowser, MakesNoPictureWiderThanThePage) {
     WritePage(PathOf("index.htm"), "");
     WritePicture("grande.png", QSize(2000, 100));
     Show("<img src=grande.png>");
     EXPECT_EQ(Browser.horizontalScrollBar()->maximum(), 0);
 }
 
-TEST_F(HelpBrowserTest, KeepsThePlaceOfAPictureThatIsMissing) {
+TEST_F(TheHelpBrowser, KeepsThePlaceOfAPictureThatIsMissing) {
     Show("<img src=falta.png alt='Una nave'><p>texto</p>");
     EXPECT_GE(SizeOfTheFirstPicture().height(), 40);
 }
 
-TEST_F(HelpBrowserTest, FetchesNothingFromANetwork) {
+TEST_F(TheHelpBrowser, FetchesNothingFromANetwork) {
     Show("<p>a</p>");
     WritePage(PathOf("hay.css"), "p { color: red }");
     for (const char *url : {"http://ejemplo.org/a.png", "https://ejemplo.org/a.png",
@@ -227,7 +227,7 @@ TEST(ReadingAPicture, GivesNothingForWhatIsNoPicture) {
     EXPECT_TRUE(ReadPicture("hola", 1).isNull());
 }
 
-TEST_F(HelpBrowserTest, MakesEverythingLargerAndSmallerWithTheKeyboard) {
+TEST_F(TheHelpBrowser, MakesEverythingLargerAndSmallerWithTheKeyboard) {
     Show("<p style='font-size: 12pt'>texto</p><p style='font-size: 16px'>otro</p>");
     const double before = Height();
     QTest::keyClick(&Browser, Qt::Key_Plus, Qt::ControlModifier);
@@ -245,7 +245,7 @@ void TurnWheel(HelpBrowser &browser, int angle) {
     QApplication::sendEvent(browser.viewport(), &event);
 }
 
-TEST_F(HelpBrowserTest, ZoomsWithTheWheelWithinItsLimits) {
+TEST_F(TheHelpBrowser, ZoomsWithTheWheelWithinItsLimits) {
     Show("<p>texto</p>");
     TurnWheel(Browser, 120);
     EXPECT_EQ(Browser.Zoom(), 1.1);
@@ -257,7 +257,7 @@ TEST_F(HelpBrowserTest, ZoomsWithTheWheelWithinItsLimits) {
     EXPECT_EQ(Browser.Zoom(), 0.5);
 }
 
-TEST_F(HelpBrowserTest, AddsUpTheSmallTurnsOfATouchpadToAStepOfZoom) {
+TEST_F(TheHelpBrowser, AddsUpTheSmallTurnsOfATouchpadToAStepOfZoom) {
     Show("<p>texto</p>");
     for (int turn = 0; turn < 7; ++turn)
         TurnWheel(Browser, 15);
@@ -266,7 +266,7 @@ TEST_F(HelpBrowserTest, AddsUpTheSmallTurnsOfATouchpadToAStepOfZoom) {
     EXPECT_EQ(Browser.Zoom(), 1.1);
 }
 
-TEST_F(HelpBrowserTest, KeepsItsZoomOnTheNextPage) {
+TEST_F(TheHelpBrowser, KeepsItsZoomOnTheNextPage) {
     WritePage(PathOf("otra.htm"), "<p>texto</p>");
     Show("<p>texto</p>");
     QTest::keyClick(&Browser, Qt::Key_Plus, Qt::ControlModifier);
@@ -275,7 +275,7 @@ TEST_F(HelpBrowserTest, KeepsItsZoomOnTheNextPage) {
     EXPECT_EQ(Height(), height);
 }
 
-TEST_F(HelpBrowserTest, WalksTheLinksWithTheKeyboard) {
+TEST_F(TheHelpBrowser, WalksTheLinksWithTheKeyboard) {
     WritePage(PathOf("b.htm"), "<p>llegada</p>");
     Show("<a href=a.htm>uno</a> texto <a href=b.htm>dos</a>");
     QTest::keyClick(&Browser, Qt::Key_Tab);
@@ -286,14 +286,14 @@ TEST_F(HelpBrowserTest, WalksTheLinksWithTheKeyboard) {
     EXPECT_EQ(Text(), "llegada");
 }
 
-TEST_F(HelpBrowserTest, CopiesWhatIsSelected) {
+TEST_F(TheHelpBrowser, CopiesWhatIsSelected) {
     Show("<p>uno <b>dos</b></p>");
     QTest::keyClick(&Browser, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(&Browser, Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QApplication::clipboard()->text(), "uno dos");
 }
 
-TEST_F(HelpBrowserTest, OffersInSpanishWhatCanBeDoneWithALink) {
+TEST_F(TheHelpBrowser, OffersInSpanishWhatCanBeDoneWithALink) {
     Show("<a href='a b.htm'>sigue</a>");
     QStringList enabled;
     QTimer::singleShot(0, &Browser, [&] {

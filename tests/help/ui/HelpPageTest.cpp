@@ -9,9 +9,9 @@
 namespace Quillbox {
 namespace {
 
-class HelpPageTest : public UiProgram {
+class TheHelpPage : public UiProgram {
   protected:
-    HelpPageTest() {
+    TheHelpPage() {
         QDir(Folder.path()).mkpath(QStringLiteral("Ayuda"));
         Write(QStringLiteral("Ayuda/index.htm"),
               "<meta http-equiv='Content-Type' content='text/html; charset=windows-1252'>"
@@ -47,20 +47,20 @@ class HelpPageTest : public UiProgram {
     QTextBrowser *Browser_ = nullptr;
 };
 
-TEST_F(HelpPageTest, ShowsTheIndexPageOfTheProgramFolderAtTheStart) {
+TEST_F(TheHelpPage, ShowsTheIndexPageOfTheProgramFolderAtTheStart) {
     Start();
     EXPECT_TRUE(Browser()->toPlainText().startsWith(QStringLiteral("Inicio ñ")));
     EXPECT_EQ(Find<QLabel>(QStringLiteral("stbBarraEstado_Panel1"))->text(),
               QStringLiteral("Ayuda de Quillbox"));
 }
 
-TEST_F(HelpPageTest, SaysWhichPageIsMissing) {
+TEST_F(TheHelpPage, SaysWhichPageIsMissing) {
     QFile::remove(PathOf(QStringLiteral("Ayuda/index.htm")));
     Start();
     EXPECT_TRUE(Browser()->toPlainText().contains(PathOf(QStringLiteral("Ayuda/index.htm"))));
 }
 
-TEST_F(HelpPageTest, LeadsBackFromAPageThatIsMissing) {
+TEST_F(TheHelpPage, LeadsBackFromAPageThatIsMissing) {
     Start();
     Program_->Options().HelpPath = PathOf(QStringLiteral("Ayuda/falta.htm"));
     Trigger(QStringLiteral("tbEstandar_Inicio"));
@@ -69,7 +69,7 @@ TEST_F(HelpPageTest, LeadsBackFromAPageThatIsMissing) {
     EXPECT_TRUE(Browser()->toPlainText().startsWith(QStringLiteral("Inicio")));
 }
 
-TEST_F(HelpPageTest, EnablesBackAndForwardWithTheHistory) {
+TEST_F(TheHelpPage, EnablesBackAndForwardWithTheHistory) {
     Start();
     EXPECT_FALSE(IsButtonEnabled(QStringLiteral("Atrás")));
     Browser()->setSource(QUrl::fromLocalFile(PathOf(QStringLiteral("Ayuda/otra.htm"))));
@@ -80,7 +80,7 @@ TEST_F(HelpPageTest, EnablesBackAndForwardWithTheHistory) {
     EXPECT_TRUE(IsButtonEnabled(QStringLiteral("Adelante")));
 }
 
-TEST_F(HelpPageTest, ShowsTheHelpPathOnTheHomeButtonAndComesForward) {
+TEST_F(TheHelpPage, ShowsTheHelpPathOnTheHomeButtonAndComesForward) {
     Start();
     Program_->Options().HelpPath = PathOf(QStringLiteral("Ayuda/otra.htm"));
     Trigger(QStringLiteral("mnuArchivo_Nuevo"));
@@ -90,7 +90,7 @@ TEST_F(HelpPageTest, ShowsTheHelpPathOnTheHomeButtonAndComesForward) {
     EXPECT_TRUE(Browser()->hasFocus());
 }
 
-TEST_F(HelpPageTest, OpensASourceAsADocumentAndStaysWhereItIs) {
+TEST_F(TheHelpPage, OpensASourceAsADocumentAndStaysWhereItIs) {
     Write("Ayuda/ejemplo.bb", "Cls");
     ShowPage("<a href='ejemplo.bb'>ejemplo</a>");
     Follow("ejemplo");
@@ -103,7 +103,7 @@ TEST_F(HelpPageTest, OpensASourceAsADocumentAndStaysWhereItIs) {
     EXPECT_FALSE(IsButtonEnabled("Atrás"));
 }
 
-TEST_F(HelpPageTest, LoadsAnOpenSourceFromDiskAgain) {
+TEST_F(TheHelpPage, LoadsAnOpenSourceFromDiskAgain) {
     Write("Ayuda/ejemplo.bb", "Cls");
     ShowPage("<a href='ejemplo.bb'>ejemplo</a>");
     Follow("ejemplo");
@@ -118,7 +118,7 @@ TEST_F(HelpPageTest, LoadsAnOpenSourceFromDiskAgain) {
     EXPECT_TRUE(Questions.Messages.empty());
 }
 
-TEST_F(HelpPageTest, OpensASourceInAFolderWithADifficultName) {
+TEST_F(TheHelpPage, OpensASourceInAFolderWithADifficultName) {
     QDir(Folder.path()).mkpath("Ayuda/mis juegos 100%");
     Write("Ayuda/mis juegos 100%/el año.bb", "Cls");
     ShowPage("<a href='mis%20juegos%20100%25/el%20a%C3%B1o.bb'>ejemplo</a>");
@@ -127,7 +127,7 @@ TEST_F(HelpPageTest, OpensASourceInAFolderWithADifficultName) {
     EXPECT_EQ(WindowOf(1)->Caption(), PathOf("Ayuda/mis juegos 100%/el año.bb"));
 }
 
-TEST_F(HelpPageTest, ReportsAMissingSourceOnceAndStaysForward) {
+TEST_F(TheHelpPage, ReportsAMissingSourceOnceAndStaysForward) {
     ShowPage("<a href='falta.bb'>ejemplo</a>");
     Follow("ejemplo");
     EXPECT_EQ(Registry().DocumentCount, 0);
@@ -135,7 +135,7 @@ TEST_F(HelpPageTest, ReportsAMissingSourceOnceAndStaysForward) {
     EXPECT_TRUE(Browser()->isVisible());
 }
 
-TEST_F(HelpPageTest, HandsWebLinksToTheSystem) {
+TEST_F(TheHelpPage, HandsWebLinksToTheSystem) {
     ShowPage("<a href='https://ejemplo.org/'>web</a> <a href='mailto:a@b.es'>correo</a>");
     Follow("web");
     Follow("correo");
@@ -145,7 +145,7 @@ TEST_F(HelpPageTest, HandsWebLinksToTheSystem) {
     EXPECT_EQ(Browser()->toPlainText(), "web correo");
 }
 
-TEST_F(HelpPageTest, ReportsAMissingWebBrowserAndGoesOn) {
+TEST_F(TheHelpPage, ReportsAMissingWebBrowserAndGoesOn) {
     Launcher.Missing = true;
     ShowPage("<a href='https://ejemplo.org/'>web</a>");
     Follow("web");
@@ -153,7 +153,7 @@ TEST_F(HelpPageTest, ReportsAMissingWebBrowserAndGoesOn) {
     EXPECT_TRUE(Questions.Messages[0].Text.contains("error 53"));
 }
 
-TEST_F(HelpPageTest, LeavesTheHistoryAloneWhileADocumentIsActive) {
+TEST_F(TheHelpPage, LeavesTheHistoryAloneWhileADocumentIsActive) {
     Start();
     ClickOn(*Browser(), "otra");
     ASSERT_EQ(Browser()->toPlainText(), "Otra");
@@ -167,7 +167,7 @@ TEST_F(HelpPageTest, LeavesTheHistoryAloneWhileADocumentIsActive) {
     EXPECT_EQ(Browser()->toPlainText(), "Otra");
 }
 
-TEST_F(HelpPageTest, ComesForwardWithItsPageForContextualHelp) {
+TEST_F(TheHelpPage, ComesForwardWithItsPageForContextualHelp) {
     Start();
     ClickOn(*Browser(), "otra");
     Trigger("mnuArchivo_Nuevo");
@@ -177,7 +177,7 @@ TEST_F(HelpPageTest, ComesForwardWithItsPageForContextualHelp) {
     EXPECT_TRUE(Browser()->hasFocus());
 }
 
-TEST_F(HelpPageTest, HasTheKeyThatFindsWhetherTheEditMenuIsOnOrOff) {
+TEST_F(TheHelpPage, HasTheKeyThatFindsWhetherTheEditMenuIsOnOrOff) {
     Start();
     auto *bar = Find<QWidget>("barBuscarEnPagina");
     for (const bool enabled : {false, true}) {
@@ -191,7 +191,7 @@ TEST_F(HelpPageTest, HasTheKeyThatFindsWhetherTheEditMenuIsOnOrOff) {
     }
 }
 
-TEST_F(HelpPageTest, FillsTheWindowDownToItsStatusBar) {
+TEST_F(TheHelpPage, FillsTheWindowDownToItsStatusBar) {
     Start();
     const auto *client = Find<QMdiSubWindow>("frmAyuda")->widget();
     const auto *statusBar = client->findChild<QStatusBar *>("stbBarraEstado");
@@ -204,7 +204,7 @@ TEST_F(HelpPageTest, FillsTheWindowDownToItsStatusBar) {
     EXPECT_EQ(Find<QLabel>("stbBarraEstado_Panel1")->minimumWidth(), client->width());
 }
 
-TEST_F(HelpPageTest, OpensASourceThatIsChosenAsTheHomePage) {
+TEST_F(TheHelpPage, OpensASourceThatIsChosenAsTheHomePage) {
     Start();
     Program_->Options().HelpPath = Write("juego.bb", "Cls");
     Trigger("tbEstandar_Inicio");
@@ -213,15 +213,16 @@ TEST_F(HelpPageTest, OpensASourceThatIsChosenAsTheHomePage) {
     EXPECT_TRUE(Browser()->toPlainText().startsWith("Inicio"));
 }
 
-TEST_F(HelpPageTest, HasTheCommandsOfTheToolsMenu) {
+TEST_F(TheHelpPage, HasTheCommandsOfTheToolsMenu) {
     Start();
     Log.Clear();
     Trigger("mnuHerramientas_Calculadora");
     Trigger("mnuAyuda_Inkwell");
-    EXPECT_EQ(Log.CallsOf({"programs."}),
-              (std::vector<std::string>{"programs.Start calc.exe 2",
-                                        "programs.Start explorer.exe " +
-                                            PathOf("Ayuda/index.htm").toStdString() + " 3"}));
+    EXPECT_EQ(
+        Log.CallsOf({"programs."}),
+        (std::vector<std::string>{"programs.Start calc.exe Minimized",
+                                  "programs.Start explorer.exe " +
+                                      PathOf("Ayuda/index.htm").toStdString() + " Maximized"}));
     Trigger("mnuHerramientas_ScaffolderGenerator");
     ASSERT_EQ(Questions.Messages.size(), 1U);
     EXPECT_EQ(Questions.Messages[0].Caption, "Error");

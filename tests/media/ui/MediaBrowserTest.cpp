@@ -40,9 +40,9 @@ FakeFolders DiskOfAGame() {
 }
 
 /// The browser over drives and folders of the test.
-class MediaBrowserWindowTest : public UiProgram {
+class TheMediaBrowserWindow : public UiProgram {
   protected:
-    MediaBrowserWindowTest() {
+    TheMediaBrowserWindow() {
         Start();
         Questions.Messages.clear(); // those about the word files
         Activation.emplace(Main(), Events);
@@ -101,7 +101,7 @@ class MediaBrowserWindowTest : public UiProgram {
     frmMediaBrowser *Browser = nullptr; ///< the main window owns it
 };
 
-TEST_F(MediaBrowserWindowTest, CarriesItsTitleTooltipsAndCaptions) {
+TEST_F(TheMediaBrowserWindow, CarriesItsTitleTooltipsAndCaptions) {
     EXPECT_EQ(Browser->windowTitle(), "Explorador Media");
     EXPECT_EQ(DrivesShown().toolTip(), "Unidades");
     EXPECT_EQ(FoldersShown().toolTip(), "Lista de carpetas");
@@ -113,19 +113,19 @@ TEST_F(MediaBrowserWindowTest, CarriesItsTitleTooltipsAndCaptions) {
     EXPECT_EQ(In<QPushButton>("cmdVolver").toolTip(), "Vuelve a la ventana principal");
 }
 
-TEST_F(MediaBrowserWindowTest, BeginsInTheCurrentFolderOfTheProcess) {
+TEST_F(TheMediaBrowserWindow, BeginsInTheCurrentFolderOfTheProcess) {
     EXPECT_EQ(DrivesShown().currentText(), "/ [Sistema]");
     EXPECT_THAT(TextsOf(FoldersShown()), ElementsAre("/", "juego", "mapas", "naves"));
     EXPECT_EQ(CurrentOf(FoldersShown()), "juego");
     EXPECT_TRUE(FoldersShown().hasFocus());
 }
 
-TEST_F(MediaBrowserWindowTest, ListsTheMediaFilesOfTheFolderInOrder) {
+TEST_F(TheMediaBrowserWindow, ListsTheMediaFilesOfTheFolderInOrder) {
     EXPECT_THAT(TextsOf(FilesShown()), ElementsAre("a.PNG", "c.x3m", "nave2.x", "nave10.x"));
     EXPECT_EQ(FilesShown().Notice(), "");
 }
 
-TEST_F(MediaBrowserWindowTest, OpensAFolderByDoubleClickAndReturn) {
+TEST_F(TheMediaBrowserWindow, OpensAFolderByDoubleClickAndReturn) {
     DoubleClick(FoldersShown(), "mapas");
     EXPECT_THAT(TextsOf(FoldersShown()), ElementsAre("/", "juego", "mapas"));
     EXPECT_THAT(TextsOf(FilesShown()), ElementsAre("uno.tga"));
@@ -136,13 +136,13 @@ TEST_F(MediaBrowserWindowTest, OpensAFolderByDoubleClickAndReturn) {
     EXPECT_EQ(Browser->FilePath(), "/");
 }
 
-TEST_F(MediaBrowserWindowTest, OnlySelectsAFolderByOneClick) {
+TEST_F(TheMediaBrowserWindow, OnlySelectsAFolderByOneClick) {
     SelectIn(FoldersShown(), "mapas");
     Settle();
     EXPECT_EQ(Browser->FilePath(), "/juego");
 }
 
-TEST_F(MediaBrowserWindowTest, GoesUpByBackspaceWithTheFolderLeftSelected) {
+TEST_F(TheMediaBrowserWindow, GoesUpByBackspaceWithTheFolderLeftSelected) {
     Press(FilesShown(), Qt::Key_Backspace);
     EXPECT_EQ(Browser->FolderPath(), "/");
     EXPECT_EQ(CurrentOf(FoldersShown()), "juego");
@@ -150,7 +150,7 @@ TEST_F(MediaBrowserWindowTest, GoesUpByBackspaceWithTheFolderLeftSelected) {
     EXPECT_EQ(Browser->FolderPath(), "/");
 }
 
-TEST_F(MediaBrowserWindowTest, SaysThatAFolderCannotBeRead) {
+TEST_F(TheMediaBrowserWindow, SaysThatAFolderCannotBeRead) {
     DoubleClick(FoldersShown(), "naves");
     EXPECT_EQ(FilesShown().Notice(), "No tienes permiso para leer esta carpeta.");
     EXPECT_THAT(Questions.Messages, IsEmpty());
@@ -158,12 +158,12 @@ TEST_F(MediaBrowserWindowTest, SaysThatAFolderCannotBeRead) {
     EXPECT_EQ(TextsOf(FilesShown()).size(), 4);
 }
 
-TEST_F(MediaBrowserWindowTest, SaysThatAFolderHasNoMediaFiles) {
+TEST_F(TheMediaBrowserWindow, SaysThatAFolderHasNoMediaFiles) {
     DoubleClick(FoldersShown(), "/");
     EXPECT_EQ(FilesShown().Notice(), "No hay archivos de medios en esta carpeta.");
 }
 
-TEST_F(MediaBrowserWindowTest, FindsNewFilesByF5AndKeepsTheSelection) {
+TEST_F(TheMediaBrowserWindow, FindsNewFilesByF5AndKeepsTheSelection) {
     SelectIn(FilesShown(), "nave2.x");
     Disk.FileNamesIn["/juego"].append("b.bmp");
     Disk.FolderNamesIn["/juego"].append("sonidos");
@@ -176,14 +176,14 @@ TEST_F(MediaBrowserWindowTest, FindsNewFilesByF5AndKeepsTheSelection) {
     EXPECT_EQ(TextsOf(FoldersShown()).back(), "sonidos");
 }
 
-TEST_F(MediaBrowserWindowTest, SaysThatTheOpenFolderIsGone) {
+TEST_F(TheMediaBrowserWindow, SaysThatTheOpenFolderIsGone) {
     Disk.FileNamesIn["/juego"].clear();
     Disk.Unreadable["/juego"] = FolderState::Missing;
     Press(FoldersShown(), Qt::Key_F5);
     EXPECT_EQ(FilesShown().Notice(), "Esta carpeta no está disponible.");
 }
 
-TEST_F(MediaBrowserWindowTest, OpensTheRootOfAChosenDrive) {
+TEST_F(TheMediaBrowserWindow, OpensTheRootOfAChosenDrive) {
     Disk.EmptyDrives.clear();
     ChooseDriveBelow();
     EXPECT_EQ(Browser->FolderPath(), "/media/a");
@@ -191,7 +191,7 @@ TEST_F(MediaBrowserWindowTest, OpensTheRootOfAChosenDrive) {
     EXPECT_EQ(Browser->SelectedDrive(), "/media/a");
 }
 
-TEST_F(MediaBrowserWindowTest, StaysInItsFolderWhenTheSameDriveIsChosenAgain) {
+TEST_F(TheMediaBrowserWindow, StaysInItsFolderWhenTheSameDriveIsChosenAgain) {
     DrivesShown().setFocus();
     DrivesShown().showPopup();
     QTest::keyClick(DrivesShown().view(), Qt::Key_Return);
@@ -200,7 +200,7 @@ TEST_F(MediaBrowserWindowTest, StaysInItsFolderWhenTheSameDriveIsChosenAgain) {
     EXPECT_EQ(Browser->FolderPath(), "/juego");
 }
 
-TEST_F(MediaBrowserWindowTest, TellsAnEmptyDriveAndSelectsTheDriveBefore) {
+TEST_F(TheMediaBrowserWindow, TellsAnEmptyDriveAndSelectsTheDriveBefore) {
     ChooseDriveBelow();
     ASSERT_EQ(Questions.Messages.size(), 1U);
     EXPECT_EQ(Questions.Messages[0].Text, "El dispositivo no está disponible.");
@@ -208,7 +208,7 @@ TEST_F(MediaBrowserWindowTest, TellsAnEmptyDriveAndSelectsTheDriveBefore) {
     EXPECT_EQ(Browser->FolderPath(), "/juego");
 }
 
-TEST_F(MediaBrowserWindowTest, TellsAnEmptyDriveThatWasChosenInTheDroppedList) {
+TEST_F(TheMediaBrowserWindow, TellsAnEmptyDriveThatWasChosenInTheDroppedList) {
     DrivesShown().setFocus();
     Settle();
     DrivesShown().showPopup();
@@ -219,7 +219,7 @@ TEST_F(MediaBrowserWindowTest, TellsAnEmptyDriveThatWasChosenInTheDroppedList) {
     EXPECT_EQ(Browser->SelectedDrive(), "/");
 }
 
-TEST_F(MediaBrowserWindowTest, GoesBackWithBothListsToTheDriveOfTheLastFocus) {
+TEST_F(TheMediaBrowserWindow, GoesBackWithBothListsToTheDriveOfTheLastFocus) {
     Disk.EmptyDrives.clear();
     ChooseDriveBelow(); // the list keeps the focus
     Disk.EmptyDrives = {"/media/usb"};
@@ -231,7 +231,7 @@ TEST_F(MediaBrowserWindowTest, GoesBackWithBothListsToTheDriveOfTheLastFocus) {
     EXPECT_EQ(Browser->FolderPath(), "/");
 }
 
-TEST_F(MediaBrowserWindowTest, LooksForDrivesEachTimeItsListDropsDown) {
+TEST_F(TheMediaBrowserWindow, LooksForDrivesEachTimeItsListDropsDown) {
     Disk.AllDrives.push_back({"/media/dvd", "Fotos"});
     DrivesShown().showPopup();
     EXPECT_EQ(DrivesShown().count(), 4);
@@ -240,7 +240,7 @@ TEST_F(MediaBrowserWindowTest, LooksForDrivesEachTimeItsListDropsDown) {
     DrivesShown().hidePopup();
 }
 
-TEST_F(MediaBrowserWindowTest, ShowsTheDriveOfTheFolderThatIsOpened) {
+TEST_F(TheMediaBrowserWindow, ShowsTheDriveOfTheFolderThatIsOpened) {
     Disk.FolderNamesIn["/media"] = {"usb"};
     DoubleClick(FoldersShown(), "/");
     DoubleClick(FoldersShown(), "media");
@@ -248,7 +248,7 @@ TEST_F(MediaBrowserWindowTest, ShowsTheDriveOfTheFolderThatIsOpened) {
     EXPECT_EQ(DrivesShown().currentText(), "/media/usb [USB]");
 }
 
-TEST_F(MediaBrowserWindowTest, InsertsTheQuotedPathIntoTheDocumentAndStays) {
+TEST_F(TheMediaBrowserWindow, InsertsTheQuotedPathIntoTheDocumentAndStays) {
     Write("a.prg", "uno\r\ndos\r\n");
     Open("a.prg");
     ComeForward();
@@ -260,7 +260,7 @@ TEST_F(MediaBrowserWindowTest, InsertsTheQuotedPathIntoTheDocumentAndStays) {
     EXPECT_TRUE(Browser->isVisible());
 }
 
-TEST_F(MediaBrowserWindowTest, InsertsNothingIntoTheHelpPage) {
+TEST_F(TheMediaBrowserWindow, InsertsNothingIntoTheHelpPage) {
     EXPECT_FALSE(In<QPushButton>("cmdInsertPath").isEnabled());
     Trigger("mnuArchivo_Nuevo");
     ComeForward();
@@ -271,17 +271,17 @@ TEST_F(MediaBrowserWindowTest, InsertsNothingIntoTheHelpPage) {
     EXPECT_FALSE(In<QPushButton>("cmdInsertPath").isEnabled());
 }
 
-TEST_F(MediaBrowserWindowTest, StartsTheViewerByDoubleClickAndReturn) {
+TEST_F(TheMediaBrowserWindow, StartsTheViewerByDoubleClickAndReturn) {
     QDir(Folder.path()).mkdir("MediaView");
     Write("MediaView/mediaview.exe", "MZ");
-    const std::string start =
-        "programs.Start " + AppDir().toStdString() + "MediaView/mediaview.exe /juego/nave2.x 2";
+    const std::string start = "programs.Start " + AppDir().toStdString() +
+                              "MediaView/mediaview.exe /juego/nave2.x Minimized";
     DoubleClick(FilesShown(), "nave2.x");
     Press(FilesShown(), Qt::Key_Return);
     EXPECT_THAT(Log.CallsOf({"programs.Start"}), ElementsAre(start, start));
 }
 
-TEST_F(MediaBrowserWindowTest, WarnsOfAMissingViewer) {
+TEST_F(TheMediaBrowserWindow, WarnsOfAMissingViewer) {
     DoubleClick(FilesShown(), "nave2.x");
     ASSERT_EQ(Questions.Messages.size(), 1U);
     EXPECT_EQ(Questions.Messages[0].Text,
@@ -289,19 +289,19 @@ TEST_F(MediaBrowserWindowTest, WarnsOfAMissingViewer) {
     EXPECT_THAT(Log.CallsOf({"programs."}), IsEmpty());
 }
 
-TEST_F(MediaBrowserWindowTest, FindsAFileByTheLettersTyped) {
+TEST_F(TheMediaBrowserWindow, FindsAFileByTheLettersTyped) {
     FilesShown().setFocus();
     QTest::keyClicks(&FilesShown(), "NAVE1");
     EXPECT_EQ(Browser->SelectedFile(), "nave10.x");
 }
 
-TEST_F(MediaBrowserWindowTest, SelectsTheFileThatTheKeyboardComesTo) {
+TEST_F(TheMediaBrowserWindow, SelectsTheFileThatTheKeyboardComesTo) {
     EXPECT_EQ(Browser->SelectedFile(), "");
     QTest::keyClick(&FoldersShown(), Qt::Key_Tab);
     EXPECT_EQ(Browser->SelectedFile(), "a.PNG");
 }
 
-TEST_F(MediaBrowserWindowTest, IsHiddenInEveryWayWithTheKeyboardBackInTheMainWindow) {
+TEST_F(TheMediaBrowserWindow, IsHiddenInEveryWayWithTheKeyboardBackInTheMainWindow) {
     const std::function<void()> ways[] = {[this] { Click("cmdVolver"); },
                                           [this] { Press(FilesShown(), Qt::Key_Escape); },
                                           [this] { Browser->close(); }};
@@ -315,7 +315,7 @@ TEST_F(MediaBrowserWindowTest, IsHiddenInEveryWayWithTheKeyboardBackInTheMainWin
     }
 }
 
-TEST_F(MediaBrowserWindowTest, HasItsFolderAndSelectionWhenItComesBack) {
+TEST_F(TheMediaBrowserWindow, HasItsFolderAndSelectionWhenItComesBack) {
     SelectIn(FilesShown(), "c.x3m");
     Click("cmdVolver");
     ComeForward();
@@ -323,7 +323,7 @@ TEST_F(MediaBrowserWindowTest, HasItsFolderAndSelectionWhenItComesBack) {
     EXPECT_EQ(Browser->SelectedFile(), "c.x3m");
 }
 
-TEST_F(MediaBrowserWindowTest, LeadsTheTabKeyThroughListsAndButtons) {
+TEST_F(TheMediaBrowserWindow, LeadsTheTabKeyThroughListsAndButtons) {
     QStringList names;
     for (QWidget *widget = Browser->nextInFocusChain(); widget != Browser;
          widget = widget->nextInFocusChain())

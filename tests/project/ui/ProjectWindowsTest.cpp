@@ -283,7 +283,7 @@ TEST_F(ProjectWindows, StartTheGenerator) {
     const QString generator = Write("Scaffolder/Scaffolder.exe", "MZ");
     InNewProject([](QDialog &dialog) { Click(dialog, "cmdScaffolder"); });
     EXPECT_EQ(Log.CallsOf({"programs."}),
-              std::vector{"programs.Start " + generator.toStdString() + " 1"});
+              std::vector{"programs.Start " + generator.toStdString() + " Normal"});
 }
 
 TEST_F(ProjectWindows, ShowAtOnceWhatAFileCannotHold) {

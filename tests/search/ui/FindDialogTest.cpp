@@ -8,7 +8,7 @@
 #include <QHideEvent>
 #include <QSet>
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 TEST_F(FindAndReplace, OpensOneDialogInTheEditorsWindow) {
     FindDialog &dialog = Open();
@@ -207,4 +207,4 @@ TEST_F(FindAndReplace, StaysOffTheMatch) {
     EXPECT_FALSE(Find.Dialog->frameGeometry().contains(found));
 }
 
-} // namespace Quillbox::Test
+} // namespace Quillbox

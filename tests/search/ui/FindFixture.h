@@ -18,7 +18,7 @@
 #include <QPushButton>
 #include <QTest>
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 /// An editor in a main window, and the dialog that finds in it.
 class FindAndReplace : public EditorTest {
@@ -117,4 +117,4 @@ class FindAndReplace : public EditorTest {
 
 inline TextRange Range(TextPosition start, TextPosition end) { return {start, end}; }
 
-} // namespace Quillbox::Test
+} // namespace Quillbox

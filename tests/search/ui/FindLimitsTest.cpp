@@ -3,7 +3,7 @@
 
 #include <gmock/gmock.h>
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 using testing::ElementsAre;
 
@@ -103,4 +103,4 @@ TEST_F(FindAndReplace, FindsInTheWholeTextOnceItIsClosed) {
     EXPECT_FALSE(Child<QCheckBox>("chkSeleccion").isChecked());
 }
 
-} // namespace Quillbox::Test
+} // namespace Quillbox

@@ -7,7 +7,7 @@
 
 #include <QSignalSpy>
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -161,4 +161,4 @@ TEST_F(FindAndReplace, CountsEveryMatchOfALongText) {
         << CountShown().toStdString();
 }
 
-} // namespace Quillbox::Test
+} // namespace Quillbox

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "FindFixture.h"
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 namespace {
 
@@ -229,4 +229,4 @@ TEST_F(FindAndReplace, TellsInTheOpenDialogWhenFindNextFindsNothing) {
     EXPECT_EQ(NoticeIn(Code()), "");
 }
 
-} // namespace Quillbox::Test
+} // namespace Quillbox

@@ -10,7 +10,7 @@
 
 #include <random>
 
-namespace Quillbox::Test {
+namespace Quillbox {
 
 TEST_F(FindAndReplace, ReplacesTheMatchAndGoesToTheNext) {
     LoadCode("uno dos uno");
@@ -294,4 +294,4 @@ TEST_F(FindAndReplace, ReplacesWhatAPlainModelReplacesAndTakesItBack) {
     }
 }
 
-} // namespace Quillbox::Test
+} // namespace Quillbox

@@ -280,7 +280,7 @@ TEST_F(TheSettingsDialog, StartsTheExplorerWithItsHelpPage) {
     }});
     EXPECT_EQ(Log.CallsOf({"programs."}),
               std::vector<std::string>{"programs.Start explorer.exe " + AppDir().toStdString() +
-                                       "Ayuda/HowTo.htm 3"});
+                                       "Ayuda/HowTo.htm Maximized"});
 }
 
 TEST_F(TheSettingsDialog, ReportsAMissingExplorer) {
