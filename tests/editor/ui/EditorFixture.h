@@ -3,9 +3,9 @@
 
 #include "editor/ui/LanguageCatalogue.h"
 #include "editor/ui/ScintillaEditor.h"
+#include "fakes/FakeSystem.h"
 #include "fakes/PaintCounter.h"
 #include "state/Language.h"
-#include "surfaces/Dialogs.h"
 
 #include <gtest/gtest.h>
 
@@ -18,22 +18,6 @@
 #include <vector>
 
 namespace Quillbox {
-
-/// Answers every question with OK and keeps what was shown.
-class RecordingDialogs final : public Dialogs {
-  public:
-    MessageAnswer ShowMessage(const Message &message) override {
-        Messages.push_back(message);
-        return MessageAnswer::Ok;
-    }
-    std::optional<QString> ShowOpen(const FileChooser &) override { return std::nullopt; }
-    std::optional<QString> ShowSave(const FileChooser &) override { return std::nullopt; }
-    std::optional<QString> ShowInput(const InputBox &) override { return std::nullopt; }
-    std::optional<Color> ShowColor(Color) override { return std::nullopt; }
-    std::optional<FontChoice> ShowFont(const FontChoice &) override { return std::nullopt; }
-
-    std::vector<Message> Messages;
-};
 
 inline LanguageDefinition TestLanguage() {
     LanguageDefinition language;
@@ -55,7 +39,7 @@ class EditorTest : public testing::Test {
     }
 
     std::unique_ptr<ScintillaEditor> NewEditor() {
-        auto editor = std::make_unique<ScintillaEditor>(Languages, Messages);
+        auto editor = std::make_unique<ScintillaEditor>(Languages, Questions);
         editor->SetLanguage(SourceLanguage.Name);
         editor->resize(600, 400);
         return editor;
@@ -92,15 +76,12 @@ class EditorTest : public testing::Test {
 
     QTemporaryDir Folder;
     LanguageCatalogue Languages;
-    RecordingDialogs Messages;
+    CallLog Log;
+    FakeDialogs Questions{Log};
     std::unique_ptr<ScintillaEditor> Editor;
 };
 
 constexpr TextPosition At(int line, int column) { return {{line}, {column}}; }
-
-} // namespace Quillbox
-
-namespace Quillbox {
 
 inline void PrintTo(const TextPosition &position, std::ostream *stream) {
     *stream << position.Line.Value << ":" << position.Column.Value;
@@ -113,7 +94,3 @@ inline void PrintTo(const TextRange &range, std::ostream *stream) {
 }
 
 } // namespace Quillbox
-
-inline void PrintTo(const QString &text, std::ostream *stream) {
-    *stream << '"' << text.toStdString() << '"';
-}

@@ -169,8 +169,8 @@ TEST_F(EditorFiles, ThatCannotBeReadLeaveTheTextAsItWas) {
     EXPECT_EQ(Caret(), At(1, 2));
     EXPECT_TRUE(Editor->IsModified());
     EXPECT_TRUE(Editor->CanUndo());
-    ASSERT_EQ(Messages.Messages.size(), 1U);
-    const Message &message = Messages.Messages[0];
+    ASSERT_EQ(Questions.Messages.size(), 1U);
+    const Message &message = Questions.Messages[0];
     EXPECT_EQ(message.Caption, "Error");
     EXPECT_EQ(message.Icon, MessageIcon::Critical);
     EXPECT_EQ(message.Buttons, MessageButtons::Ok);
@@ -181,7 +181,7 @@ TEST_F(EditorFiles, ThatCannotBeReadLeaveTheTextAsItWas) {
 
 TEST_F(EditorFiles, ThatAreFoldersCannotBeRead) {
     EXPECT_FALSE(Editor->OpenFile(Folder.path()));
-    EXPECT_EQ(Messages.Messages.size(), 1U);
+    EXPECT_EQ(Questions.Messages.size(), 1U);
 }
 
 TEST_F(EditorFiles, ThatCannotBeSavedStayModifiedAndAreRescued) {
@@ -191,8 +191,8 @@ TEST_F(EditorFiles, ThatCannotBeSavedStayModifiedAndAreRescued) {
     EXPECT_FALSE(Editor->SaveFile(path));
     EXPECT_TRUE(Editor->IsModified());
     EXPECT_EQ(Editor->Text(), "dos uno");
-    ASSERT_EQ(Messages.Messages.size(), 1U);
-    const Message &message = Messages.Messages[0];
+    ASSERT_EQ(Questions.Messages.size(), 1U);
+    const Message &message = Questions.Messages[0];
     EXPECT_EQ(message.Caption, "Error");
     EXPECT_EQ(message.Icon, MessageIcon::Critical);
     EXPECT_TRUE(message.Text.startsWith("No se ha podido guardar el archivo " + path + ".\n"))
@@ -216,8 +216,8 @@ TEST_F(EditorFiles, KeepTheirOldBytesWhenTheDiskIsFull) {
     }
     EXPECT_EQ(Read(path), "viejo");
     EXPECT_TRUE(Editor->IsModified());
-    ASSERT_EQ(Messages.Messages.size(), 1U);
-    EXPECT_FALSE(Messages.Messages[0].Text.contains("Hay una copia"));
+    ASSERT_EQ(Questions.Messages.size(), 1U);
+    EXPECT_FALSE(Questions.Messages[0].Text.contains("Hay una copia"));
 }
 
 } // namespace Quillbox
