@@ -19,7 +19,6 @@
 #include <optional>
 
 using namespace Quillbox;
-using Test::PlainTextModel;
 
 namespace {
 
